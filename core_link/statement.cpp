@@ -17,9 +17,7 @@ QString Query(const QString& path) { return QStringLiteral("? ") + path; }
 
 QString Bool(QStringView path, bool on) { return Assign(path, Truth(on)); }
 
-QString Visible(QStringView path, bool on) {
-  return Bool(path.toString() + QStringLiteral(".Visible"), on);
-}
+QString Visible(QStringView path, bool on) { return Bool(QString(path + u".Visible"), on); }
 
 QString Int(QStringView path, int value) { return Assign(path, QString::number(value)); }
 

@@ -1,0 +1,117 @@
+// The language in which dialog templates are written: one nested declaration per dialog, shaped
+// like the screen. Plain data; siblings/controls builds widgets from it.
+#pragma once
+
+#include <vector>
+
+#include <QString>
+
+namespace vyn {
+
+enum class ControlKind {
+  // Controls, found by number.
+  Group,
+  Check,
+  Radio,
+  Static,
+  Button,
+  Edit,
+  Spin,
+  Slider,
+  List,
+  Combo,
+  Progress,
+  Preview,
+  ObjectList,
+  SatelliteList,
+  // Arrangement only.
+  Column,
+  Row,
+  Grid,
+  Stretch,
+};
+
+/// One control or arrangement of a dialog template. Radio buttons that follow one another, with no
+/// other control between, form one group, named by its first button. A static is the label, with
+/// its mnemonic, of the first control behind it that takes the keyboard focus.
+struct TemplateItem {
+  ControlKind kind = ControlKind::Column;
+  int id = 0;
+  QString text;
+  std::vector<TemplateItem> children;
+  int widthChars = 0;     ///< edits and lists: width in average characters of the font
+  bool indented = false;  ///< moved right by the width of a check mark
+  bool hidden = false;
+  bool readOnly = false;
+};
+
+struct DialogTemplate {
+  int number = 0;
+  QString caption;
+  TemplateItem content;
+};
+
+/// The template with this number. Asking for one that does not exist is an error of the program.
+const DialogTemplate& FindDialogTemplate(int number);
+
+/// The controls of a template in the order of its declaration, which is the tab order;
+/// arrangements are left out.
+std::vector<const TemplateItem*> ControlsOf(const DialogTemplate& dialog);
+
+// The buttons that every dialog has.
+inline constexpr int kOkButton = 1;
+inline constexpr int kCancelButton = 2;
+inline constexpr int kHelpButton = 57670;
+
+// The words in which templates are written.
+namespace layout {
+
+template <class... Items>
+TemplateItem arranged(ControlKind kind, Items... items) {
+  TemplateItem item{kind};
+  (item.children.push_back(std::move(items)), ...);
+  return item;
+}
+template <class... Items>
+TemplateItem column(Items... items) {
+  return arranged(ControlKind::Column, std::move(items)...);
+}
+template <class... Items>
+TemplateItem row(Items... items) {
+  return arranged(ControlKind::Row, std::move(items)...);
+}
+/// Each child is a row whose children stand in the grid's columns.
+template <class... Items>
+TemplateItem grid(Items... items) {
+  return arranged(ControlKind::Grid, std::move(items)...);
+}
+template <class... Items>
+TemplateItem group(int id, const char16_t* text, Items... items) {
+  TemplateItem item = column(std::move(items)...);
+  item.kind = ControlKind::Group;
+  item.id = id;
+  item.text = QString::fromUtf16(text);
+  return item;
+}
+
+TemplateItem control(ControlKind kind, int id, const char16_t* text = u"");
+TemplateItem check(int id, const char16_t* text);
+TemplateItem radio(int id, const char16_t* text);
+TemplateItem label(int id, const char16_t* text);
+TemplateItem button(int id, const char16_t* text);
+TemplateItem edit(int id, int widthChars);
+TemplateItem spin(int id);
+TemplateItem stretch();
+TemplateItem indented(TemplateItem item);
+TemplateItem hidden(TemplateItem item);
+TemplateItem readOnly(TemplateItem item);
+
+/// The colour-and-font button of a dialog.
+TemplateItem colorButton(int id);
+
+/// A dialog's content above its bottom line: `left` (a button or nothing) and, at the right,
+/// "閉じる", "キャンセル" and "ヘルプ(&H)".
+TemplateItem withButtons(TemplateItem content, TemplateItem left = stretch());
+
+}  // namespace layout
+}  // namespace vyn

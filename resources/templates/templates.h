@@ -1,0 +1,14 @@
+// Every dialog template of the library, one function each.
+#pragma once
+
+#include "resources/dialog_template.h"
+
+namespace vyn::templates {
+
+DialogTemplate Sun();
+DialogTemplate Solar();
+DialogTemplate ZodiacalLight();
+
+std::vector<DialogTemplate> All();
+
+}  // namespace vyn::templates

@@ -1,0 +1,136 @@
+#include "siblings/controls/controls.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionSpinBox>
+#include <QTimerEvent>
+#include <QWheelEvent>
+
+namespace vyn {
+namespace {
+
+constexpr int kRepeatDelayMs = 400;
+constexpr int kRepeatIntervalMs = 60;
+
+QString CssColor(QRgb color) { return QColor::fromRgb(color).name(); }
+
+}  // namespace
+
+int ControlIdOf(const QWidget* widget) {
+  const QVariant id = widget->property("controlId");
+  return id.isValid() ? id.toInt() : -1;
+}
+
+ControlKind ControlKindOf(const QWidget* widget) {
+  return static_cast<ControlKind>(widget->property("controlKind").toInt());
+}
+
+bool CVynGroupBox::event(QEvent* event) {
+  if (event->type() != QEvent::Shortcut || firstControl_ == nullptr) {
+    return QGroupBox::event(event);
+  }
+  QWidget* control = firstControl_;
+  while (!control->isEnabled() || !control->isVisible()) {
+    control = control->nextInFocusChain();
+    if (control == firstControl_) return true;
+  }
+  control->setFocus(Qt::ShortcutFocusReason);
+  return true;
+}
+
+void CVynButton::SetColors(QRgb face, QRgb text, QRgb border) {
+  setStyleSheet(QStringLiteral("QPushButton { background-color: %1; color: %2; border: 1px solid "
+                               "%3; padding: 4px 12px; }"
+                               "QPushButton:focus { border: 1px solid %2; }"
+                               "QPushButton:pressed { border: 1px inset %2; }")
+                    .arg(CssColor(face), CssColor(text), CssColor(border)));
+}
+
+CVynSpinButton::CVynSpinButton(QWidget* parent) : QWidget(parent) {
+  setFocusPolicy(Qt::NoFocus);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+}
+
+void CVynSpinButton::SetBuddy(QWidget* edit) { edit->installEventFilter(this); }
+
+QRect CVynSpinButton::UpRect() const { return {0, 0, width(), height() / 2}; }
+
+QRect CVynSpinButton::DownRect() const {
+  return {0, height() / 2, width(), height() - height() / 2};
+}
+
+QSize CVynSpinButton::sizeHint() const {
+  const int line = fontMetrics().height();
+  return {line, line + 8};
+}
+
+void CVynSpinButton::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  DrawArrow(painter, true);
+  DrawArrow(painter, false);
+}
+
+void CVynSpinButton::DrawArrow(QPainter& painter, bool up) {
+  QStyleOption option;
+  option.initFrom(this);
+  option.rect = up ? UpRect() : DownRect();
+  const bool sunken = pressedDelta_ == (up ? -1 : 1);
+  option.state |= sunken ? QStyle::State_Sunken : QStyle::State_Raised;
+  style()->drawPrimitive(QStyle::PE_PanelButtonBevel, &option, &painter, this);
+  const int side = std::min(option.rect.width(), option.rect.height()) * 2 / 3;
+  const QPoint center = option.rect.center();
+  option.rect = QRect(center.x() - side / 2, center.y() - side / 2, side, side);
+  style()->drawPrimitive(up ? QStyle::PE_IndicatorArrowUp : QStyle::PE_IndicatorArrowDown, &option,
+                         &painter, this);
+}
+
+void CVynSpinButton::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  repeatTimer_ = startTimer(kRepeatDelayMs);
+  Press(UpRect().contains(event->position().toPoint()) ? -1 : 1, event->modifiers());
+}
+
+void CVynSpinButton::mouseReleaseEvent(QMouseEvent*) {
+  if (repeatTimer_ != 0) killTimer(repeatTimer_);
+  repeatTimer_ = 0;
+  pressedDelta_ = 0;
+  update();
+}
+
+void CVynSpinButton::timerEvent(QTimerEvent* event) {
+  if (event->timerId() != repeatTimer_) return;
+  killTimer(repeatTimer_);
+  repeatTimer_ = 0;
+  // A message box that a press brought up takes the release of the button with it.
+  if (!isEnabled() || !QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) return;
+  repeatTimer_ = startTimer(kRepeatIntervalMs);
+  Press(pressedDelta_, QGuiApplication::keyboardModifiers());
+}
+
+bool CVynSpinButton::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && isEnabled()) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down) {
+      Q_EMIT deltaPressed(key->key() == Qt::Key_Up ? -1 : 1, key->modifiers());
+      return true;
+    }
+  }
+  if (event->type() == QEvent::Wheel && isEnabled()) {
+    const auto* wheel = static_cast<QWheelEvent*>(event);
+    if (wheel->angleDelta().y() != 0) {
+      Q_EMIT deltaPressed(wheel->angleDelta().y() > 0 ? -1 : 1, wheel->modifiers());
+    }
+    return true;
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void CVynSpinButton::Press(int delta, Qt::KeyboardModifiers modifiers) {
+  pressedDelta_ = delta;
+  update();
+  Q_EMIT deltaPressed(delta, modifiers);
+}
+
+}  // namespace vyn

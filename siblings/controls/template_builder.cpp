@@ -1,0 +1,220 @@
+#include "siblings/controls/template_builder.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QPointer>
+#include <QResizeEvent>
+#include <QStyle>
+#include <QStyleOptionGroupBox>
+
+#include "siblings/controls/controls.h"
+
+namespace vyn {
+namespace {
+
+/// Holds a group box and, above it and inside its frame, the controls that stand in it.
+class GroupFrame final : public QWidget {
+ public:
+  GroupFrame(CVynGroupBox* box, QWidget* parent) : QWidget(parent), box_(box) {
+    box_->setParent(this);
+    box_->lower();
+  }
+
+  void FitContents() {
+    QStyleOptionGroupBox option;
+    option.initFrom(box_);
+    option.rect = QRect(0, 0, 400, 400);
+    option.text = box_->title();
+    option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+    const QRect inner =
+        style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, box_);
+    constexpr int kPadding = 6;
+    layout()->setContentsMargins(inner.left() + kPadding, inner.top() + kPadding,
+                                 400 - inner.right() + kPadding, 400 - inner.bottom() + kPadding);
+    const int titleWidth = box_->minimumSizeHint().width();
+    setMinimumWidth(titleWidth);
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override { box_->setGeometry(QRect({}, event->size())); }
+
+ private:
+  CVynGroupBox* box_;
+};
+
+class Builder {
+ public:
+  explicit Builder(QWidget* dialog) : dialog_(dialog) {}
+
+  ControlSet Build(const DialogTemplate& dialogTemplate) {
+    auto* layout = new QVBoxLayout(dialog_);
+    layout->setSizeConstraint(QLayout::SetMinimumSize);
+    Add(layout, dialogTemplate.content, dialog_);
+    NameLabelsAndGroups();
+    SetTabOrder();
+    return std::move(set_);
+  }
+
+ private:
+  void Add(QBoxLayout* layout, const TemplateItem& item, QWidget* parent) {
+    if (item.kind == ControlKind::Stretch) {
+      layout->addStretch();
+    } else if (item.indented) {
+      auto* line = new QHBoxLayout;
+      line->addSpacing(dialog_->style()->pixelMetric(QStyle::PM_IndicatorWidth) + 6);
+      layout->addLayout(line);
+      TemplateItem plain = item;
+      plain.indented = false;
+      Add(line, plain, parent);
+    } else if (QLayout* arranged = MakeArrangement(item, parent)) {
+      layout->addLayout(arranged);
+    } else {
+      layout->addWidget(MakeControl(item, parent));
+    }
+  }
+
+  /// The layout of an arrangement with its children; null for a control.
+  QLayout* MakeArrangement(const TemplateItem& item, QWidget* parent) {
+    if (item.kind == ControlKind::Grid) return MakeGrid(item, parent);
+    if (item.kind != ControlKind::Row && item.kind != ControlKind::Column) return nullptr;
+    const bool isRow = item.kind == ControlKind::Row;
+    auto* box = new QBoxLayout(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    AddChildren(box, item, parent);
+    return box;
+  }
+
+  void AddChildren(QBoxLayout* layout, const TemplateItem& item, QWidget* parent) {
+    for (const TemplateItem& child : item.children) Add(layout, child, parent);
+  }
+
+  QGridLayout* MakeGrid(const TemplateItem& item, QWidget* parent) {
+    auto* grid = new QGridLayout;
+    for (int row = 0; row < static_cast<int>(item.children.size()); ++row) {
+      int column = 0;
+      for (const TemplateItem& child : item.children[row].children) {
+        auto* cell = new QHBoxLayout;
+        Add(cell, child, parent);
+        grid->addLayout(cell, row, column++);
+      }
+    }
+    return grid;
+  }
+
+  QWidget* MakeControl(const TemplateItem& item, QWidget* parent) {
+    if (item.kind == ControlKind::Group) return MakeGroup(item, parent);
+    QWidget* widget = NewWidget(item, parent);
+    if (item.kind == ControlKind::Radio) {
+      JoinRadioGroup(item.id, static_cast<QAbstractButton*>(widget));
+    }
+    Register(item, widget);
+    return widget;
+  }
+
+  QWidget* MakeGroup(const TemplateItem& item, QWidget* parent) {
+    auto* box = new CVynGroupBox(item.text);
+    auto* frame = new GroupFrame(box, parent);
+    Register(item, box);
+    AddChildren(new QVBoxLayout(frame), item, frame);
+    frame->FitContents();
+    return frame;
+  }
+
+  QWidget* NewWidget(const TemplateItem& item, QWidget* parent) {
+    switch (item.kind) {
+      case ControlKind::Check:
+        return new CVynCheckBox(item.text, parent);
+      case ControlKind::Radio:
+        return NewRadio(item, parent);
+      case ControlKind::Static:
+        return new CVynStatic(item.text, parent);
+      case ControlKind::Button:
+        return new CVynButton(item.text, parent);
+      case ControlKind::Edit:
+        return NewEdit(item, parent);
+      case ControlKind::Spin:
+        return NewSpin(parent);
+      case ControlKind::Slider:
+        return new QSlider(Qt::Horizontal, parent);
+      case ControlKind::List:
+        return new CVynListBox(parent);
+      case ControlKind::Combo:
+        return new QComboBox(parent);
+      case ControlKind::Progress:
+        return new QProgressBar(parent);
+      default:
+        qFatal("no widget for the kind of control %d", item.id);
+    }
+  }
+
+  static QWidget* NewRadio(const TemplateItem& item, QWidget* parent) {
+    auto* radio = new CVynRadioButton(item.text, parent);
+    radio->setAutoExclusive(false);  // its button group does that
+    return radio;
+  }
+
+  QWidget* NewEdit(const TemplateItem& item, QWidget* parent) {
+    lastEdit_ = new CVynEdit(parent);
+    const int digit = lastEdit_->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    lastEdit_->setFixedWidth(digit * (item.widthChars + 2));
+    lastEdit_->setReadOnly(item.readOnly);
+    return lastEdit_;
+  }
+
+  QWidget* NewSpin(QWidget* parent) {
+    auto* spin = new CVynSpinButton(parent);
+    if (lastEdit_ != nullptr) spin->SetBuddy(lastEdit_);
+    return spin;
+  }
+
+  void Register(const TemplateItem& item, QWidget* widget) {
+    if (item.kind != ControlKind::Radio) radioGroup_ = nullptr;
+    widget->setProperty("controlId", item.id);
+    widget->setProperty("controlKind", static_cast<int>(item.kind));
+    widget->setVisible(!item.hidden);
+    set_.byId.insert(item.id, widget);
+    set_.inOrder.append(widget);
+  }
+
+  void JoinRadioGroup(int id, QAbstractButton* radio) {
+    if (radioGroup_ == nullptr) {
+      radioGroup_ = new QButtonGroup(dialog_);
+      set_.radioGroups.insert(id, radioGroup_);
+    }
+    radioGroup_->addButton(radio, static_cast<int>(radioGroup_->buttons().size()));
+  }
+
+  void NameLabelsAndGroups() {
+    for (qsizetype i = 0; i < set_.inOrder.size(); ++i) {
+      QWidget* next = NextFocusable(i);
+      if (next == nullptr) continue;
+      if (auto* label = qobject_cast<CVynStatic*>(set_.inOrder[i])) label->setBuddy(next);
+      if (auto* box = qobject_cast<CVynGroupBox*>(set_.inOrder[i])) box->SetFirstControl(next);
+    }
+  }
+
+  QWidget* NextFocusable(qsizetype index) const {
+    for (qsizetype i = index + 1; i < set_.inOrder.size(); ++i) {
+      if (set_.inOrder[i]->focusPolicy() & Qt::TabFocus) return set_.inOrder[i];
+    }
+    return nullptr;
+  }
+
+  void SetTabOrder() {
+    for (qsizetype i = 1; i < set_.inOrder.size(); ++i) {
+      QWidget::setTabOrder(set_.inOrder[i - 1], set_.inOrder[i]);
+    }
+  }
+
+  QWidget* dialog_;
+  ControlSet set_;
+  QButtonGroup* radioGroup_ = nullptr;
+  CVynEdit* lastEdit_ = nullptr;
+};
+
+}  // namespace
+
+ControlSet BuildControls(const DialogTemplate& dialogTemplate, QWidget* dialog) {
+  return Builder(dialog).Build(dialogTemplate);
+}
+
+}  // namespace vyn

@@ -5,8 +5,6 @@
 #include <limits>
 #include <string>
 
-#include <QByteArray>
-
 namespace vyn::reply {
 namespace {
 
@@ -30,10 +28,7 @@ bool ToBool(QStringView reply) { return reply.compare(u"TRUE", Qt::CaseInsensiti
 double ToDouble(QStringView reply) {
   const std::string text = NumberText(reply);
   double value = 0.0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (error == std::errc::result_out_of_range) {
-    return QByteArray(text.data(), end - text.data()).toDouble();
-  }
+  std::from_chars(text.data(), text.data() + text.size(), value);
   return value;
 }
 

@@ -12,6 +12,8 @@
 namespace vyn {
 namespace {
 
+constexpr int kBottomLineGap = 14;
+
 /// Holds a group box and, above it and inside its frame, the controls that stand in it.
 class GroupFrame final : public QWidget {
  public:
@@ -50,6 +52,8 @@ class Builder {
     auto* layout = new QVBoxLayout(dialog_);
     layout->setSizeConstraint(QLayout::SetMinimumSize);
     Add(layout, dialogTemplate.content, dialog_);
+    // The buttons at the bottom stand off from what the dialog is about.
+    layout->itemAt(0)->layout()->setSpacing(kBottomLineGap);
     NameLabelsAndGroups();
     SetTabOrder();
     return std::move(set_);

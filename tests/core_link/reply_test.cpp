@@ -39,7 +39,7 @@ TEST(Reply, NumbersAreReadByTheirLongestPrefix) {
     EXPECT_EQ(reply::ToDouble(text), asDouble) << text.toStdString();
     EXPECT_EQ(reply::ToInt(text), asInt) << text.toStdString();
   }
-  EXPECT_EQ(reply::ToDouble(u"-1e999 far"), -std::numeric_limits<double>::infinity());
+  EXPECT_EQ(reply::ToDouble(u"-1e999 far"), 0.0);
   EXPECT_EQ(reply::ToDouble(u"1e-999"), 0.0);
   EXPECT_EQ(reply::ToInt(u"99999999999"), std::numeric_limits<int>::max());
   EXPECT_EQ(reply::ToInt(u"-99999999999"), std::numeric_limits<int>::min());

@@ -27,7 +27,8 @@ class ReferenceEngine final : public CCorVyn {
   /// Goes back to the bare state.
   void Reset();
 
-  /// The state with which the demo planetarium starts; the same on every call.
+  /// The state with which the demo planetarium starts; the same on every call. Values of
+  /// SetProperty and loaded element files stay; the objects of the files are shown.
   void LoadStartingState();
 
   /// Puts a value in place that answers queries of this path until something assigns to it, also
@@ -45,6 +46,11 @@ class ReferenceEngine final : public CCorVyn {
   bool LoadElements(ElementKind kind, const QString& path);
   const ElementTable& Elements(ElementKind kind) const;
 
+  /// Whether an object of the loaded file, numbered from 0, is shown; and one of its switches by
+  /// the feature behind its path, such as "Orbit" or "ID.Visible". False for an unknown object.
+  bool IsObjectShown(ElementKind kind, int object) const;
+  bool IsObjectOn(ElementKind kind, int object, QStringView feature) const;
+
   void SetLocationObject(int bodyNumber);
   void SetTimeSys(int timeSystem);
 
@@ -55,7 +61,8 @@ class ReferenceEngine final : public CCorVyn {
   bool IsOn(QStringView path) const;
   double Number(QStringView path, double fallback = 0.0) const;
 
-  /// The moment shown, as a Julian date in universal time.
+  /// The moment shown, as a Julian date in universal time; that of the starting state while none is
+  /// set.
   double JulianDate() const;
 
  private:

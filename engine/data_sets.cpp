@@ -1,0 +1,79 @@
+#include "engine/data_sets.h"
+
+#include <array>
+#include <set>
+
+#include "core_link/reply.h"
+
+namespace vyn {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr std::array<QStringView, 3> kSpotMembers{u"Longitude", u"Latitude", u"Type"};
+constexpr int kMaxMembers = 1000000;
+
+QString MemberPathOf(const QString& basePath, int number) {
+  return basePath + u".#"_s + QString::number(number);
+}
+
+QString CountPath(const QString& basePath) { return basePath + u".Count"_s; }
+
+int CountOf(const PropertyTree& tree, const QString& basePath) {
+  const PropertyNode* count = tree.Find(CountPath(basePath));
+  return count != nullptr && count->hasValue ? reply::ToInt(count->value) : 0;
+}
+
+void SetMember(PropertyTree& tree, const QString& memberPath, QStringView word, QStringView value) {
+  tree.SetValue(tree.Make(memberPath + u'.' + word), value);
+}
+
+/// Labels stay with their images when others are deleted, so a new one is one that nobody bears.
+QString FreeLabel(PropertyTree& tree, const QString& basePath, int count) {
+  std::set<QString> taken;
+  for (int n = 1; n < count; ++n) {
+    const PropertyNode* label = tree.Find(QString(MemberPathOf(basePath, n) + u".Label"_s));
+    if (label != nullptr) taken.insert(label->value);
+  }
+  for (int n = count;; ++n) {
+    const QString label = u"I%1"_s.arg(n, 2, 10, QChar(u'0'));
+    if (!taken.contains(label)) return label;
+  }
+}
+
+/// 0 for an unknown member.
+int NumberOf(const PropertyTree& tree, const QString& basePath, QStringView argument) {
+  const QString path = tree.Canonical(QString(basePath + u".#"_s + argument));
+  return path.isEmpty() ? 0 : reply::ToInt(LastWord(path).sliced(1));
+}
+
+}  // namespace
+
+void AddDataSet(PropertyTree& tree, const QString& basePath, QStringView arguments) {
+  const int number = CountOf(tree, basePath) + 1;
+  if (number < 1 || number > kMaxMembers) return;
+  const QString member = MemberPathOf(basePath, number);
+  tree.ClearWithin(member);
+  if (SameWord(LastWord(basePath), u"TakenImage")) {
+    SetMember(tree, member, u"Label", FreeLabel(tree, basePath, number));
+  }
+  std::size_t position = 0;
+  for (const QStringView argument : arguments.tokenize(u',', Qt::SkipEmptyParts)) {
+    if (position == kSpotMembers.size()) break;
+    SetMember(tree, member, kSpotMembers[position++], argument.trimmed());
+  }
+  tree.SetValue(tree.Make(CountPath(basePath)), QString::number(number));
+}
+
+void DeleteDataSet(PropertyTree& tree, const QString& basePath, QStringView argument) {
+  const int count = CountOf(tree, basePath);
+  const int number = NumberOf(tree, basePath, argument);
+  if (number < 1 || number > count || count > kMaxMembers) return;
+  tree.ClearWithin(MemberPathOf(basePath, number));
+  for (int n = number; n < count; ++n) {
+    tree.MoveValues(MemberPathOf(basePath, n + 1), MemberPathOf(basePath, n));
+  }
+  tree.SetValue(tree.Make(CountPath(basePath)), QString::number(count - 1));
+}
+
+}  // namespace vyn

@@ -1,0 +1,116 @@
+// Assignments to element classes: their files, their data commands and their objects.
+#include "core_link/reply.h"
+#include "engine/world.h"
+
+namespace vyn {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+bool IsDataCommand(QStringView feature) {
+  return SameWord(feature, u"DataUpdate") || SameWord(feature, u"DataRemove");
+}
+
+}  // namespace
+
+void World::AssignElements(const QString& path, const QString& value) {
+  const auto member = AsMember(path);
+  if (const Object object = ObjectOf(path); object.elements != nullptr) {
+    return AssignObject(object, path, value);
+  }
+  if (member) {
+    if (!IsDataCommand(member->feature)) tree_.SetValue(tree_.Make(path), value);
+    return;
+  }
+  AssignElementFact(path, value);
+}
+
+void World::AssignElementFact(const QString& path, const QString& value) {
+  const QStringView word = LastWord(path);
+  ElementClass* elements = ElementsOf(path);
+  if (SameWord(word, u"File")) return AssignFile(path, value);
+  if (SameWord(word, u"DataAdd")) {
+    if (elements != nullptr && reply::ToBool(value)) elements->AddObjects();
+    return;
+  }
+  if (SwitchColumn* column = ColumnOfMembers(path)) return column->SetMembers(value);
+  if (elements != nullptr) return EndPut(path);
+  tree_.SetValue(tree_.Make(path), value);
+}
+
+/// A file that cannot be read leaves the old one, and what answers for it.
+void World::AssignFile(const QString& path, const QString& value) {
+  for (const ElementKind kind : {ElementKind::Comet, ElementKind::MinorPlanet}) {
+    if (!SameWord(ParentPath(path), Elements(kind).Path())) continue;
+    if (LoadElements(kind, value)) EndPut(path);
+  }
+}
+
+bool World::LoadElements(ElementKind kind, const QString& file) {
+  if (!Elements(kind).Load(file)) return false;
+  ForgetObjects(Elements(kind));
+  return true;
+}
+
+/// Values of single objects were those of the file's objects before.
+void World::ForgetObjects(const ElementClass& elements) {
+  PropertyNode* classNode = tree_.Find(elements.Path());
+  if (classNode == nullptr) return;
+  for (PropertyNode* child : classNode->children) {
+    if (!ObjectNumber(child->Word())) continue;
+    tree_.ForEachNode(*child, [this](PropertyNode& node) {
+      if (!node.isPut) tree_.ClearValue(node);
+    });
+  }
+}
+
+void World::AssignObject(const Object& object, const QString& path, const QString& value) {
+  if (IsDataCommand(object.feature)) return CarryOut(object, value);
+  const int number = object.feature.isEmpty() ? kIndividualSwitch : ObjectSwitchOf(object.feature);
+  if (number < 0) return tree_.SetValue(tree_.Make(path), value);
+  const bool answers = object.elements->Switches()[number].Set(object.index, value);
+  if (object.feature.isEmpty()) return EndPut(path);
+  // A text that the switch does not answer with is kept beside it.
+  if (answers) return EndPut(path);
+  tree_.SetValue(tree_.Make(path), value);
+}
+
+void World::CarryOut(const Object& object, const QString& value) {
+  if (!reply::ToBool(value)) return;
+  if (SameWord(object.feature, u"DataUpdate")) {
+    object.elements->UpdateObject(object.index);
+  } else if (object.elements->RemoveObject(object.index)) {
+    CloseRanks(*object.elements, object.index + 1);
+  }
+}
+
+/// The objects behind a removed one move up by one number, and their values with them.
+void World::CloseRanks(const ElementClass& elements, int removedNumber) {
+  PropertyNode* classNode = tree_.Find(elements.Path());
+  if (classNode == nullptr) return;
+  std::map<int, QString> behind;
+  for (const PropertyNode* child : classNode->children) {
+    const int number = ObjectNumber(child->Word()).value_or(0);
+    if (number == removedNumber) tree_.ClearWithin(child->path);
+    if (number > removedNumber) behind.emplace(number, child->path);
+  }
+  for (const auto& [number, path] : behind) {
+    tree_.MoveValues(path, elements.Path() + u".No"_s + QString::number(number - 1));
+  }
+}
+
+void World::InitElements(QStringView path) {
+  if (const Object object = ObjectOf(path); object.elements != nullptr) {
+    for (std::size_t i = 0; i < kObjectSwitches.size(); ++i) {
+      if (object.feature.isEmpty() || IsWithin(kObjectSwitches[i], object.feature)) {
+        object.elements->StartSwitch(static_cast<int>(i), object.index);
+      }
+    }
+    return;
+  }
+  for (ElementClass& elements : elements_) {
+    if (IsWithin(elements.Path(), path)) elements.StartSwitches();
+  }
+}
+
+}  // namespace vyn

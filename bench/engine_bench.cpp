@@ -1,4 +1,5 @@
 // How fast the engine carries out statements.
+#include <QStringList>
 #include <benchmark/benchmark.h>
 
 #include "engine/reference_engine.h"

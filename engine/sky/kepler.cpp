@@ -195,10 +195,13 @@ Vector3 PositionAt(const OrbitElements& orbit, double jdTt) {
   return PositionAt(orbit, PlaneOf(orbit), jdTt);
 }
 
-StateVector StateAt(const OrbitElements& orbit, double jdTt) {
-  const OrbitPlane plane = PlaneOf(orbit);
+StateVector StateAt(const OrbitElements& orbit, const OrbitPlane& plane, double jdTt) {
   const PlanarState state = PlanarStateAt(orbit, jdTt);
   return {InSpace(plane, state.x, state.y), InSpace(plane, state.xVelocity, state.yVelocity)};
+}
+
+StateVector StateAt(const OrbitElements& orbit, double jdTt) {
+  return StateAt(orbit, PlaneOf(orbit), jdTt);
 }
 
 OrbitElements OsculatingElements(const StateVector& state, double jdTt, double gravity) {

@@ -51,6 +51,7 @@ OrbitPlane PlaneOf(const OrbitElements& orbit);
 /// ranges.
 Vector3 PositionAt(const OrbitElements& orbit, const OrbitPlane& plane, double jdTt);
 Vector3 PositionAt(const OrbitElements& orbit, double jdTt);
+StateVector StateAt(const OrbitElements& orbit, const OrbitPlane& plane, double jdTt);
 StateVector StateAt(const OrbitElements& orbit, double jdTt);
 
 /// The orbit on which a body with this place and velocity moves. A body that moves straight through

@@ -1,0 +1,37 @@
+// How bodies turn: the frame fixed to a body, and how its disk stands as an observer sees it.
+#pragma once
+
+#include "engine/sky/bodies.h"
+#include "siblings/astro/direction_cosines.h"
+
+namespace vyn {
+
+/// The rotation from the ecliptic of J2000 to the frame fixed to the body: z towards its north
+/// pole, x towards longitude 0 on its equator, longitudes in the sense of right-handed rotation
+/// (on the Earth and on the Sun: eastwards).
+/// Source: IAU working group on cartographic coordinates, reports of 2009 and 2015 (Archinal et
+/// al.); Mars without its small periodic terms. `jdTt` is when the light left the body, except for
+/// the Sun, whose Carrington longitudes count from when it arrives.
+Matrix3 ToBodyFixed(Body body, double jdTt);
+
+/// How a disk stands.
+struct DiskOrientation {
+  /// Longitude and latitude of the point in the middle of the disk, in the frame of ToBodyFixed.
+  /// For the Sun these are its central meridian L0 and its latitude B0.
+  double centralLongitudeDeg = 0.0;  ///< [0, 360)
+  double centralLatitudeDeg = 0.0;
+  /// From celestial north of the frame given eastwards to the body's north pole, [0, 360).
+  double axisAngleDeg = 0.0;
+};
+
+/// Of a body in this direction from the observer; `north` is the pole from which the axis angle is
+/// told. Both in the ecliptic of J2000.
+DiskOrientation OrientationOf(Body body, double jdTt, const Vector3& fromObserver,
+                              const Vector3& north);
+
+/// The rotation with which the dialog of sunspots turns a point of the disk: from the frame of the
+/// disk, x to the right, y up and z towards the observer, with the body's axis upright, to the
+/// frame fixed to the body. Made of the central longitude ("CM") and latitude ("De").
+Matrix3 BodyFromDisk(double centralLongitudeDeg, double centralLatitudeDeg);
+
+}  // namespace vyn

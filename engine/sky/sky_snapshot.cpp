@@ -1,0 +1,119 @@
+#include "engine/sky/sky_snapshot.h"
+
+#include <algorithm>
+#include <cmath>
+#include <thread>
+
+namespace vyn {
+namespace {
+
+/// What counts for a record that leaves the coefficient blank.
+constexpr double kUsualCometCoefficient = 4.0;
+constexpr double kUsualSlope = 0.15;
+
+SmallBody BodyInColumns(const ElementColumns& columns, int row) {
+  SmallBody body;
+  body.orbit = {.perihelionJd = columns.perihelionJd[row],
+                .perihelionDistanceAu = columns.perihelionDistanceAu[row],
+                .eccentricity = columns.eccentricity[row],
+                .argumentOfPerihelionDeg = columns.argumentOfPerihelionDeg[row],
+                .ascendingNodeDeg = columns.ascendingNodeDeg[row],
+                .inclinationDeg = columns.inclinationDeg[row]};
+  body.absoluteMagnitude = columns.absoluteMagnitude[row];
+  body.magnitudeCoefficient = columns.magnitudeCoefficient[row];
+  return body;
+}
+
+double YearOf(double jd) { return 2000.0 + (jd - 2451545.0) / 365.25; }
+
+}  // namespace
+
+SkySnapshot::SkySnapshot(double jdUt, const Site& site) : observer_(jdUt, site) {
+  const StateVector earth = HeliocentricState(Body::Earth, JdTt());
+  site_ = {earth.position + observer_.SitePosition(), earth.velocity + observer_.SiteVelocity()};
+  for (int i = 0; i < kBodyCount; ++i) places_[i] = PlaceOf(static_cast<Body>(i));
+}
+
+BodyPlace SkySnapshot::PlaceOf(Body body) const {
+  const StateVector state = HeliocentricState(body, JdTt());
+  BodyPlace place;
+  place.body = body;
+  place.heliocentric = state.position;
+  if (body == Body::Earth) return place;
+  place.fromSite = ApparentPlace(state.position - site_.position, state.velocity - site_.velocity);
+  const double lightDays = Length(place.fromSite) / kLightAuPerDay;
+  // The Sun's longitudes count from when its light arrives.
+  const double jdOfDisk = body == Body::Sun ? JdTt() : JdTt() - lightDays;
+  const Vector3 pole = observer_.CelestialPole();
+  place.disk = OrientationOf(body, jdOfDisk, place.fromSite, pole);
+  place.light = IlluminationOf(place.heliocentric, place.fromSite);
+  place.magnitude = MagnitudeOf(body, place.light, place.disk.centralLatitudeDeg, YearOf(JdTt()));
+  place.illuminatedFraction =
+      body == Body::Sun ? 1.0 : IlluminatedFraction(place.light.phaseAngleDeg);
+  place.apparentDiameterDeg =
+      ApparentDiameterDeg(FactsOf(body).radiusKm, place.light.observerDistanceAu);
+  place.brightLimbAngleDeg = PositionAngleDeg(place.fromSite, -site_.position, pole);
+  return place;
+}
+
+SmallBodyPlaces::Fixed SmallBodyPlaces::FixedOf(const SmallBody& body, bool comet) {
+  const double usual = comet ? kUsualCometCoefficient : kUsualSlope;
+  const double coefficient =
+      std::isnan(body.magnitudeCoefficient) ? usual : body.magnitudeCoefficient;
+  return {body.orbit, PlaneOf(body.orbit), static_cast<float>(body.absoluteMagnitude),
+          static_cast<float>(coefficient), comet};
+}
+
+void SmallBodyPlaces::SetTable(const ElementTable& table) {
+  table_ = &table;
+  const int count = table.Count();
+  fixed_.clear();
+  fixed_.reserve(count);
+  for (int i = 0; i < count; ++i) {
+    fixed_.push_back(FixedOf(BodyInColumns(table.Columns(), i), table.IsComet(i)));
+  }
+  heliocentric_.resize(count);
+  fromSite_.resize(count);
+  magnitude_.resize(count);
+}
+
+void SmallBodyPlaces::Update(const SkySnapshot& sky) {
+  constexpr int kWorthAThread = 20000;
+  const int cores = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+  const int parts = std::clamp(Count() / kWorthAThread, 1, cores);
+  std::vector<std::jthread> threads;
+  for (int part = 1; part < parts; ++part) {
+    threads.emplace_back([this, &sky, part, parts] {
+      UpdateRange(sky, static_cast<int>(std::int64_t{Count()} * part / parts),
+                  static_cast<int>(std::int64_t{Count()} * (part + 1) / parts));
+    });
+  }
+  UpdateRange(sky, 0, Count() / parts);
+  threads.clear();
+  if (table_ == nullptr) return;
+  for (const std::uint32_t object : table_->ObjectsWithPages()) {
+    const int index = static_cast<int>(object);
+    UpdateOne(sky, FixedOf(table_->BodyAt(index, sky.JdTt()), table_->IsComet(index)), index);
+  }
+}
+
+void SmallBodyPlaces::UpdateRange(const SkySnapshot& sky, int from, int to) {
+  for (int object = from; object < to; ++object) UpdateOne(sky, fixed_[object], object);
+}
+
+void SmallBodyPlaces::UpdateOne(const SkySnapshot& sky, const Fixed& fixed, int object) {
+  const StateVector state = StateAt(fixed.orbit, fixed.plane, sky.JdTt());
+  const StateVector& site = sky.SiteState();
+  heliocentric_[object] = state.position;
+  fromSite_[object] = ApparentPlace(state.position - site.position, state.velocity - site.velocity);
+  if (std::isnan(fixed.absoluteMagnitude)) {
+    magnitude_[object] = fixed.absoluteMagnitude;
+    return;
+  }
+  const auto magnitude = fixed.comet ? CometMagnitude : MinorPlanetMagnitude;
+  magnitude_[object] =
+      static_cast<float>(magnitude(fixed.absoluteMagnitude, fixed.coefficient,
+                                   IlluminationOf(heliocentric_[object], fromSite_[object])));
+}
+
+}  // namespace vyn

@@ -1,0 +1,91 @@
+// Everything that a view of the sky draws of the solar system at one moment, from one site.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "engine/element_table.h"
+#include "engine/sky/bodies.h"
+#include "engine/sky/disk_orientation.h"
+#include "engine/sky/magnitudes.h"
+#include "engine/sky/observer.h"
+
+namespace vyn {
+
+/// One body as it is and as it is seen. Vectors are in the ecliptic of J2000, in au.
+struct BodyPlace {
+  Body body = Body::Sun;
+  Vector3 heliocentric;  ///< where it is
+  Vector3 fromSite;      ///< where it is seen: light time and aberration are in it
+  Illumination light;
+  double magnitude = 0.0;
+  double illuminatedFraction = 1.0;
+  double apparentDiameterDeg = 0.0;
+  /// From celestial north eastwards to the middle of the bright limb; of the Sun without meaning.
+  double brightLimbAngleDeg = 0.0;
+  DiskOrientation disk;  ///< its axis angle counts from celestial north
+};
+
+/// The Sun, the Moon and the planets at a moment, seen from a site. Costs some 50 microseconds.
+class SkySnapshot {
+ public:
+  SkySnapshot(double jdUt, const Site& site);
+
+  const Observer& GetObserver() const { return observer_; }
+  double JdUt() const { return observer_.JdUt(); }
+  double JdTt() const { return observer_.JdTt(); }
+
+  /// The Earth's own entry tells its place only: it is not seen.
+  const BodyPlace& Place(Body body) const { return places_[static_cast<int>(body)]; }
+  const std::array<BodyPlace, kBodyCount>& Places() const { return places_; }
+
+  /// The site's place and velocity relative to the Sun.
+  const StateVector& SiteState() const { return site_; }
+
+ private:
+  BodyPlace PlaceOf(Body body) const;
+
+  Observer observer_;
+  StateVector site_;
+  std::array<BodyPlace, kBodyCount> places_;
+};
+
+/// The places of all comets or minor planets of an element file. What does not change from frame to
+/// frame is reckoned once, when the table is set.
+class SmallBodyPlaces {
+ public:
+  /// To be called again whenever the table's content has changed.
+  void SetTable(const ElementTable& table);
+
+  /// Reckons all places for the snapshot's moment and site. Objects that have continuation records
+  /// use the one valid then. Large tables are shared between threads.
+  void Update(const SkySnapshot& sky);
+
+  int Count() const { return static_cast<int>(heliocentric_.size()); }
+  /// NaN for an object whose elements cannot be used.
+  const Vector3& Heliocentric(int object) const { return heliocentric_[object]; }
+  /// Where it is seen from the site: light time and aberration are in it.
+  const Vector3& FromSite(int object) const { return fromSite_[object]; }
+  /// NaN for an object without absolute magnitude.
+  float Magnitude(int object) const { return magnitude_[object]; }
+
+ private:
+  struct Fixed {
+    OrbitElements orbit;
+    OrbitPlane plane;
+    float absoluteMagnitude;
+    float coefficient;
+    bool comet;
+  };
+  static Fixed FixedOf(const SmallBody& body, bool comet);
+  void UpdateRange(const SkySnapshot& sky, int from, int to);
+  void UpdateOne(const SkySnapshot& sky, const Fixed& fixed, int object);
+
+  const ElementTable* table_ = nullptr;
+  std::vector<Fixed> fixed_;
+  std::vector<Vector3> heliocentric_;
+  std::vector<Vector3> fromSite_;
+  std::vector<float> magnitude_;
+};
+
+}  // namespace vyn

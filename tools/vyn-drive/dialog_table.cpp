@@ -1,0 +1,49 @@
+#include "tools/vyn-drive/dialog_table.h"
+
+#include <algorithm>
+#include <array>
+
+#include "major_bodies/solar_dialog.h"
+#include "major_bodies/sun_dialog.h"
+#include "major_bodies/zodiacal_light_dialog.h"
+#include "tools/vyn-drive/script.h"
+
+namespace vyn::drive {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+template <class Dialog>
+std::unique_ptr<CVynDialog> Make(const DialogMaking& making, Arguments& words) {
+  words.End();
+  if (making.commandHandle == nullptr) return std::make_unique<Dialog>(making.parent);
+  return std::make_unique<Dialog>(making.commandHandle, making.secondHandle, making.parent);
+}
+
+struct DialogClass {
+  QStringView name;
+  std::unique_ptr<CVynDialog> (*make)(const DialogMaking&, Arguments&);
+};
+
+// A new dialog takes one line here. One whose constructor takes more than the handles and the
+// parent has a function of its own instead of Make.
+constexpr std::array kClasses = {
+    DialogClass{u"CDlgSolar", Make<CDlgSolar>},
+    DialogClass{u"CDlgSun", Make<CDlgSun>},
+    DialogClass{u"CDlgZodiacalLight", Make<CDlgZodiacalLight>},
+};
+
+}  // namespace
+
+std::unique_ptr<CVynDialog> MakeDialog(const QString& className, const DialogMaking& making,
+                                       Arguments& words) {
+  const auto found = std::ranges::find(kClasses, QStringView(className), &DialogClass::name);
+  if (found == kClasses.end()) throw ScriptError{u"unknown dialog class: "_s + className};
+  return found->make(making, words);
+}
+
+QString ClassName(const QObject& window) {
+  return QString::fromLatin1(window.metaObject()->className()).section(u"::"_s, -1);
+}
+
+}  // namespace vyn::drive

@@ -1,0 +1,81 @@
+#include "tools/vyn-drive/list_control.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+
+#include "tools/vyn-drive/input.h"
+#include "tools/vyn-drive/script.h"
+
+namespace vyn::drive {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+[[noreturn]] void ThrowHasNo(const QString& what) {
+  throw ScriptError{u"the control has no "_s + what};
+}
+
+void ClickItem(QAbstractItemView& view, const QModelIndex& index) {
+  view.scrollTo(index);
+  Settle();
+  ClickAt(*view.viewport(), view.visualRect(index).center());
+}
+
+class ItemList final : public ListControl {
+ public:
+  explicit ItemList(QAbstractItemView& view) : view_(view) {}
+
+  int RowCount() const override { return view_.model()->rowCount(view_.rootIndex()); }
+  int SelectedRow() const override {
+    const QModelIndexList rows = view_.selectionModel()->selectedIndexes();
+    return rows.isEmpty() ? -1 : rows.first().row();
+  }
+  QString RowText(int row) const override { return Index(row).data().toString(); }
+  void Choose(int row) override {
+    if (view_.isVisible() && view_.isEnabled()) ClickItem(view_, Index(row));
+  }
+
+ private:
+  QModelIndex Index(int row) const { return view_.model()->index(row, 0, view_.rootIndex()); }
+
+  QAbstractItemView& view_;
+};
+
+class ComboList final : public ListControl {
+ public:
+  explicit ComboList(QComboBox& combo) : combo_(combo) {}
+
+  int RowCount() const override { return combo_.count(); }
+  int SelectedRow() const override { return combo_.currentIndex(); }
+  QString RowText(int row) const override { return combo_.itemText(row); }
+  void Choose(int row) override {
+    if (!combo_.isVisible() || !combo_.isEnabled()) return;
+    combo_.setFocus(Qt::MouseFocusReason);
+    combo_.showPopup();
+    ClickItem(*combo_.view(), combo_.model()->index(row, combo_.modelColumn()));
+  }
+
+ private:
+  QComboBox& combo_;
+};
+
+}  // namespace
+
+ListControl::~ListControl() = default;
+QString ListControl::RowText(int) const { ThrowHasNo(u"texts of rows"_s); }
+void ListControl::Choose(int) { ThrowHasNo(u"selection"_s); }
+void ListControl::ClickCell(int, int) { ThrowHasNo(u"cells"_s); }
+void ListControl::DoubleClickCell(int, int) { ThrowHasNo(u"cells"_s); }
+void ListControl::ClickHeader(int) { ThrowHasNo(u"headings"_s); }
+QStringList ListControl::Cells(int) const { ThrowHasNo(u"cells"_s); }
+QStringList ListControl::Headers() const { ThrowHasNo(u"headings"_s); }
+
+std::unique_ptr<ListControl> AsList(QWidget& control) {
+  if (auto* combo = qobject_cast<QComboBox*>(&control)) return std::make_unique<ComboList>(*combo);
+  if (auto* view = qobject_cast<QAbstractItemView*>(&control)) {
+    return std::make_unique<ItemList>(*view);
+  }
+  return nullptr;
+}
+
+}  // namespace vyn::drive

@@ -1,0 +1,61 @@
+#include "tools/vyn-drive/open_dialogs.h"
+
+#include <algorithm>
+#include <ranges>
+
+#include "core_link/window_message.h"
+#include "tools/vyn-drive/output.h"
+#include "tools/vyn-drive/script.h"
+
+namespace vyn::drive {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+void ReportClosing(const QString& className, int result) {
+  Print(u"closed: "_s + className + (result == QDialog::Accepted ? u" ok"_s : u" cancel"_s));
+}
+
+}  // namespace
+
+bool ParentWindow::event(QEvent* event) {
+  if (event->type() != kTextRequestMessage) return QWidget::event(event);
+  const auto* question = static_cast<CVynMessage*>(event);
+  *static_cast<QString*>(question->lParam) = u"text"_s + QString::number(question->wParam);
+  event->accept();
+  return true;
+}
+
+void OpenDialogs::Open(const QString& className, CCorVyn* commandHandle, CCorVyn* secondHandle,
+                       Arguments& words) {
+  CVynDialog& dialog =
+      *owned_.emplace_back(MakeDialog(className, {commandHandle, secondHandle, &parent_}, words));
+  if (!dialog.Create()) return;
+  Print(u"opened: "_s + className + u' ' + Quoted(dialog.windowTitle()));
+  Add(dialog);
+}
+
+void OpenDialogs::Add(CVynDialog& dialog) {
+  dialogs_.emplace_back(&dialog);
+  QObject::connect(&dialog, &QDialog::finished, &dialog,
+                   [name = ClassName(dialog)](int result) { ReportClosing(name, result); });
+}
+
+CVynDialog& OpenDialogs::Active() const {
+  const auto reversed = dialogs_ | std::views::reverse;
+  const auto open = std::ranges::find_if(
+      reversed, [](const QPointer<CVynDialog>& dialog) { return dialog && dialog->isVisible(); });
+  if (open == reversed.end()) throw ScriptError{u"no dialog is open"_s};
+  return **open;
+}
+
+QWidget& OpenDialogs::Control(int id) const {
+  QWidget* control = Active().GetDlgItem(id);
+  if (control == nullptr) {
+    throw ScriptError{u"no such control in "_s + ClassName(Active()) + u": "_s +
+                      QString::number(id)};
+  }
+  return *control;
+}
+
+}  // namespace vyn::drive

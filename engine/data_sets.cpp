@@ -1,6 +1,7 @@
 #include "engine/data_sets.h"
 
 #include <array>
+#include <limits>
 #include <set>
 
 #include "core_link/reply.h"
@@ -11,7 +12,6 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr std::array<QStringView, 3> kSpotMembers{u"Longitude", u"Latitude", u"Type"};
-constexpr int kMaxMembers = 1000000;
 
 QString MemberPathOf(const QString& basePath, int number) {
   return basePath + u".#"_s + QString::number(number);
@@ -29,16 +29,22 @@ void SetMember(PropertyTree& tree, const QString& memberPath, QStringView word, 
 }
 
 /// Labels stay with their images when others are deleted, so a new one is one that nobody bears.
-QString FreeLabel(PropertyTree& tree, const QString& basePath, int count) {
+QString FreeLabel(PropertyTree& tree, const QString& basePath, int number) {
   std::set<QString> taken;
-  for (int n = 1; n < count; ++n) {
-    const PropertyNode* label = tree.Find(QString(MemberPathOf(basePath, n) + u".Label"_s));
-    if (label != nullptr) taken.insert(label->value);
+  if (PropertyNode* base = tree.Find(basePath)) {
+    tree.ForEachValue(*base, [&taken](const PropertyNode& node) {
+      if (SameWord(node.Word(), u"Label")) taken.insert(node.value);
+    });
   }
-  for (int n = count;; ++n) {
+  for (int n = number;; ++n) {
     const QString label = u"I%1"_s.arg(n, 2, 10, QChar(u'0'));
     if (!taken.contains(label)) return label;
   }
+}
+
+void GiveLabel(PropertyTree& tree, const QString& basePath, int number) {
+  PropertyNode& label = tree.Make(MemberPathOf(basePath, number) + u".Label"_s);
+  if (!label.hasValue) tree.SetValue(label, FreeLabel(tree, basePath, number));
 }
 
 /// 0 for an unknown member.
@@ -50,13 +56,11 @@ int NumberOf(const PropertyTree& tree, const QString& basePath, QStringView argu
 }  // namespace
 
 void AddDataSet(PropertyTree& tree, const QString& basePath, QStringView arguments) {
-  const int number = CountOf(tree, basePath) + 1;
-  if (number < 1 || number > kMaxMembers) return;
+  const int count = CountOf(tree, basePath);
+  if (count < 0 || count == std::numeric_limits<int>::max()) return;
+  const int number = count + 1;
   const QString member = MemberPathOf(basePath, number);
-  tree.ClearWithin(member);
-  if (SameWord(LastWord(basePath), u"TakenImage")) {
-    SetMember(tree, member, u"Label", FreeLabel(tree, basePath, number));
-  }
+  if (SameWord(LastWord(basePath), u"TakenImage")) GiveLabel(tree, basePath, number);
   std::size_t position = 0;
   for (const QStringView argument : arguments.tokenize(u',', Qt::SkipEmptyParts)) {
     if (position == kSpotMembers.size()) break;
@@ -68,11 +72,8 @@ void AddDataSet(PropertyTree& tree, const QString& basePath, QStringView argumen
 void DeleteDataSet(PropertyTree& tree, const QString& basePath, QStringView argument) {
   const int count = CountOf(tree, basePath);
   const int number = NumberOf(tree, basePath, argument);
-  if (number < 1 || number > count || count > kMaxMembers) return;
-  tree.ClearWithin(MemberPathOf(basePath, number));
-  for (int n = number; n < count; ++n) {
-    tree.MoveValues(MemberPathOf(basePath, n + 1), MemberPathOf(basePath, n));
-  }
+  if (number < 1 || number > count) return;
+  tree.RemoveMember(basePath, u"#", number);
   tree.SetValue(tree.Make(CountPath(basePath)), QString::number(count - 1));
 }
 

@@ -9,8 +9,9 @@
 
 namespace vyn {
 
-/// ".Add()": appends a member without any value. With arguments it is a spot: its longitude,
-/// latitude and type. An image below "TakenImage" gets a label.
+/// ".Add()": appends a member and gives it no value; those put in place for it beforehand stay.
+/// With arguments it is a spot: its longitude, latitude and type. An image below "TakenImage" gets
+/// a label.
 void AddDataSet(PropertyTree& tree, const QString& basePath, QStringView arguments);
 
 /// ".Delete(n)" or ".Delete(label)": removes that member; those behind it move up by one number.

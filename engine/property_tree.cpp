@@ -1,6 +1,8 @@
 #include "engine/property_tree.h"
 
-#include <algorithm>
+#include <map>
+
+#include "core_link/reply.h"
 
 namespace vyn {
 namespace {
@@ -119,6 +121,22 @@ void PropertyTree::ClearWithin(const QString& path) {
   ForEachValue(*root, [this](PropertyNode& node) { ClearValue(node); });
 }
 
+void PropertyTree::RemoveMember(const QString& path, QStringView prefix, int number) {
+  const PropertyNode* base = Find(path);
+  if (base == nullptr) return;
+  std::map<int, QString> behind;
+  for (const PropertyNode* child : base->children) {
+    if (!child->Word().startsWith(prefix, Qt::CaseInsensitive)) continue;
+    const int childNumber = reply::ToInt(child->Word().sliced(prefix.size()));
+    if (childNumber == number) ClearWithin(child->path);
+    if (childNumber > number) behind.emplace(childNumber, child->path);
+  }
+  for (const auto& [childNumber, childPath] : behind) {
+    MoveValues(childPath, path + u'.' + prefix + QString::number(childNumber - 1));
+  }
+}
+
+/// `to` has no values.
 void PropertyTree::MoveValues(const QString& from, const QString& to) {
   PropertyNode* root = Find(from);
   if (root == nullptr) return;

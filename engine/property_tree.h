@@ -50,8 +50,9 @@ class PropertyTree {
   /// Takes the values at and below a path away.
   void ClearWithin(const QString& path);
 
-  /// The values at and below `from` become those of `to`, which had none.
-  void MoveValues(const QString& from, const QString& to);
+  /// Removes the member "#n" or "Non" of a path, the prefix being "#" or "No": its values go, and
+  /// those of the members behind it move up by one number.
+  void RemoveMember(const QString& path, QStringView prefix, int number);
 
   /// Calls `visit` for every node with a value at or below `root`, parents first, siblings in the
   /// order in which they came.
@@ -67,6 +68,7 @@ class PropertyTree {
 
  private:
   PropertyNode* FindIn(QStringView path) const;
+  void MoveValues(const QString& from, const QString& to);
   QString NumberOfLabel(QStringView parentPath, QStringView label) const;
   PropertyNode& Insert(const QString& path, PropertyNode& parent);
 

@@ -1,6 +1,3 @@
-// clang-format off
-// One row a property, so that the state can be read at a glance.
-// clang-format on
 #include "engine/starting_state.h"
 
 #include <array>

@@ -89,7 +89,6 @@ class World {
   void AssignElementFact(const QString& path, const QString& value);
   void AssignFile(const QString& path, const QString& value);
   void CarryOut(const Object& object, const QString& value);
-  void CloseRanks(const ElementClass& elements, int removedNumber);
   void ForgetObjects(const ElementClass& elements);
   void InitElements(QStringView path);
   void EndPut(const QString& path);

@@ -80,22 +80,7 @@ void World::CarryOut(const Object& object, const QString& value) {
   if (SameWord(object.feature, u"DataUpdate")) {
     object.elements->UpdateObject(object.index);
   } else if (object.elements->RemoveObject(object.index)) {
-    CloseRanks(*object.elements, object.index + 1);
-  }
-}
-
-/// The objects behind a removed one move up by one number, and their values with them.
-void World::CloseRanks(const ElementClass& elements, int removedNumber) {
-  PropertyNode* classNode = tree_.Find(elements.Path());
-  if (classNode == nullptr) return;
-  std::map<int, QString> behind;
-  for (const PropertyNode* child : classNode->children) {
-    const int number = ObjectNumber(child->Word()).value_or(0);
-    if (number == removedNumber) tree_.ClearWithin(child->path);
-    if (number > removedNumber) behind.emplace(number, child->path);
-  }
-  for (const auto& [number, path] : behind) {
-    tree_.MoveValues(path, elements.Path() + u".No"_s + QString::number(number - 1));
+    tree_.RemoveMember(object.elements->Path(), u"No", object.index + 1);
   }
 }
 

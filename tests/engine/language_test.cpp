@@ -83,6 +83,7 @@ const EngineCase kClasses[]{
 const EngineCase kMethods[]{
   {"SpotNotClosed",      {{u"Solar.Sun.sunspot.#1.count"_s, u"0"_s}}, {u"Solar.Sun.sunspot.#1.Add(1.0, -2.0, 2"_s}, u"? solar.sun.sunspot.#1.count; ? solar.sun.sunspot.#1.#1.latitude; ? solar.sun.sunspot.#1.#1.type"_s, u"1-2.02"_s},
   {"AddedBehindOthers",  {{u"solar.sun.corona.Count"_s, u"2"_s}}, {u"solar.sun.corona.Add()"_s}, u"? solar.sun.corona.count; ? solar.sun.corona.#3.title"_s, u"3"_s},
+  {"PutBeforeItIsAdded", {{u"c.#1.title"_s, u"t"_s}}, {u"c.Add()"_s}, u"? c.count; ? c.#1.title"_s, u"1t"_s},
   {"DeleteMovesUp",      {}, {u"c.Add();c.Add();c.Add();c.#1.t = a;c.#2.t = b;c.#3.t = c;c.#3.s = 3;c.Delete(2)"_s}, u"? c.count; ? c.#1.t; ? c.#2.t; ? c.#2.s; ? c.#3.t"_s, u"2ac3"_s},
   {"DeleteUnknown",      {}, {u"c.Add();c.#1.t = a;c.Delete(0);c.Delete(2);c.Delete();c.Delete(x)"_s}, u"? c.count; ? c.#1.t"_s, u"1a"_s},
   {"ImagesHaveLabels",   {}, {u"solar.sun.TakenImage.Add();solar.sun.TakenImage.Add();solar.sun.TakenImage.Delete(I01)"_s}, u"? solar.sun.takenimage.#1.Label"_s, u"I02"_s},

@@ -26,7 +26,7 @@ struct BodyPlace {
   DiskOrientation disk;  ///< its axis angle counts from celestial north
 };
 
-/// The Sun, the Moon and the planets at a moment, seen from a site. Costs some 50 microseconds.
+/// The Sun, the Moon and the planets at a moment, seen from a site. Costs about 0.1 ms.
 class SkySnapshot {
  public:
   SkySnapshot(double jdUt, const Site& site);

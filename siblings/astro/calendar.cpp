@@ -39,7 +39,7 @@ long long FirstDayOfMonth(MonthOfYear date, bool gregorian) {
     double zero = 0.0;
     double modifiedJd = 0.0;
     eraCal2jd(date.year, date.month, 1, &zero, &modifiedJd);
-    return static_cast<long long>(zero + modifiedJd + 0.5);
+    return std::llround(zero + modifiedJd + 0.5);
   }
   // Years are taken to begin in March, so that the leap day is the last of its year.
   const bool early = date.month <= 2;

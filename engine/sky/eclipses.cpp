@@ -54,7 +54,9 @@ double FullMoonSeparation(double jdTt) {
 template <typename Function>
 double LowestWithin(double from, double to, Function function) {
   constexpr double kInverseGolden = 1.0 / std::numbers::phi;
-  while (to - from > 1e-6) {
+  // Steps are counted, for at a date far enough away no two numbers lie so close together.
+  constexpr int kSteps = 31;
+  for (int step = 0; step < kSteps; ++step) {
     const double left = to - (to - from) * kInverseGolden;
     const double right = from + (to - from) * kInverseGolden;
     if (function(left) < function(right)) {
@@ -248,6 +250,7 @@ std::vector<CentralPathPoint> CentralPathNear(double jdUt, double stepMinutes) {
   constexpr double kLongestHalfHours = 3.0;
   const SolarEclipse eclipse = SolarEclipseNear(jdUt);
   std::vector<CentralPathPoint> path;
+  if (!(stepMinutes > 0.0)) return path;
   if (eclipse.kind != EclipseKind::Annular && eclipse.kind != EclipseKind::Total) return path;
   const int steps = static_cast<int>(kLongestHalfHours * 60.0 / stepMinutes);
   for (int i = -steps; i <= steps; ++i) {

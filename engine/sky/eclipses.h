@@ -67,8 +67,8 @@ struct CentralPathPoint {
 };
 
 /// The band of the eclipse nearest to the date, from its first moment on the ground to its last;
-/// empty for an eclipse without one. Takes some milliseconds: keep it while the eclipse stays the
-/// same.
+/// empty for an eclipse without one or a step that is not positive. Takes some milliseconds: keep
+/// it while the eclipse stays the same.
 std::vector<CentralPathPoint> CentralPathNear(double jdUt, double stepMinutes);
 
 }  // namespace vyn

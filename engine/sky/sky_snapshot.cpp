@@ -77,35 +77,36 @@ void SmallBodyPlaces::SetTable(const ElementTable& table) {
   magnitude_.resize(count);
 }
 
-void SmallBodyPlaces::Update(const SkySnapshot& sky) {
+void SmallBodyPlaces::Update(double jdTt, const StateVector& observer) {
   constexpr int kWorthAThread = 20000;
   const int cores = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
   const int parts = std::clamp(Count() / kWorthAThread, 1, cores);
   std::vector<std::jthread> threads;
   for (int part = 1; part < parts; ++part) {
-    threads.emplace_back([this, &sky, part, parts] {
-      UpdateRange(sky, static_cast<int>(std::int64_t{Count()} * part / parts),
+    threads.emplace_back([this, jdTt, &observer, part, parts] {
+      UpdateRange(jdTt, observer, static_cast<int>(std::int64_t{Count()} * part / parts),
                   static_cast<int>(std::int64_t{Count()} * (part + 1) / parts));
     });
   }
-  UpdateRange(sky, 0, Count() / parts);
+  UpdateRange(jdTt, observer, 0, Count() / parts);
   threads.clear();
   if (table_ == nullptr) return;
   for (const std::uint32_t object : table_->ObjectsWithPages()) {
     const int index = static_cast<int>(object);
-    UpdateOne(sky, FixedOf(table_->BodyAt(index, sky.JdTt()), table_->IsComet(index)), index);
+    UpdateOne(jdTt, observer, FixedOf(table_->BodyAt(index, jdTt), table_->IsComet(index)), index);
   }
 }
 
-void SmallBodyPlaces::UpdateRange(const SkySnapshot& sky, int from, int to) {
-  for (int object = from; object < to; ++object) UpdateOne(sky, fixed_[object], object);
+void SmallBodyPlaces::UpdateRange(double jdTt, const StateVector& observer, int from, int to) {
+  for (int object = from; object < to; ++object) UpdateOne(jdTt, observer, fixed_[object], object);
 }
 
-void SmallBodyPlaces::UpdateOne(const SkySnapshot& sky, const Fixed& fixed, int object) {
-  const StateVector state = StateAt(fixed.orbit, fixed.plane, sky.JdTt());
-  const StateVector& site = sky.SiteState();
+void SmallBodyPlaces::UpdateOne(double jdTt, const StateVector& observer, const Fixed& fixed,
+                                int object) {
+  const StateVector state = StateAt(fixed.orbit, fixed.plane, jdTt);
   heliocentric_[object] = state.position;
-  fromSite_[object] = ApparentPlace(state.position - site.position, state.velocity - site.velocity);
+  fromSite_[object] =
+      ApparentPlace(state.position - observer.position, state.velocity - observer.velocity);
   if (std::isnan(fixed.absoluteMagnitude)) {
     magnitude_[object] = fixed.absoluteMagnitude;
     return;

@@ -59,7 +59,9 @@ class SmallBodyPlaces {
 
   /// Reckons all places for the snapshot's moment and site. Objects that have continuation records
   /// use the one valid then. Large tables are shared between threads.
-  void Update(const SkySnapshot& sky);
+  void Update(const SkySnapshot& sky) { Update(sky.JdTt(), sky.SiteState()); }
+  /// The same for any observer, whose place and velocity are told relative to the Sun.
+  void Update(double jdTt, const StateVector& observer);
 
   int Count() const { return static_cast<int>(heliocentric_.size()); }
   /// NaN for an object whose elements cannot be used.
@@ -78,8 +80,8 @@ class SmallBodyPlaces {
     bool comet;
   };
   static Fixed FixedOf(const SmallBody& body, bool comet);
-  void UpdateRange(const SkySnapshot& sky, int from, int to);
-  void UpdateOne(const SkySnapshot& sky, const Fixed& fixed, int object);
+  void UpdateRange(double jdTt, const StateVector& observer, int from, int to);
+  void UpdateOne(double jdTt, const StateVector& observer, const Fixed& fixed, int object);
 
   const ElementTable* table_ = nullptr;
   std::vector<Fixed> fixed_;

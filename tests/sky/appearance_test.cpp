@@ -193,6 +193,15 @@ TEST(Eclipses, ShadowsOnTheGroundSurroundTheirMiddle) {
   for (const auto& point : ShadowOutline(jd + 5.0, ShadowCone::Penumbra, 36)) EXPECT_FALSE(point);
 }
 
+TEST(Eclipses, NoDateKeepsTheSearchFromEnding) {
+  for (const double jd : {-1e6, 0.0, 1e7, 1e12, double{NAN}, double{INFINITY}}) {
+    SolarEclipseNear(jd);
+    LunarEclipseNear(jd);
+    EXPECT_EQ(SkySnapshot(jd, {}).Places().size(), std::size_t{kBodyCount});
+  }
+  EXPECT_TRUE(CentralPathNear(2457987.0, 0.0).empty());
+}
+
 TEST(Eclipses, LunarEclipsesComeWhenAndAsDeepAsTheyDid) {
   // Espenak and Meeus, "Five Millennium Canon of Lunar Eclipses".
   struct Case {

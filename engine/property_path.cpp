@@ -89,10 +89,22 @@ int MemberNumber(QStringView digits) {
   return static_cast<int>(number);
 }
 
+/// The place names of a surface are switched only; their "Name" is no text.
+bool IsTextAndSwitch(QStringView path) {
+  return IsOneOf(LastWord(path), kTextAndSwitch) &&
+         !SameWord(LastWord(ParentPath(path)), u"Surface");
+}
+
+/// A switch is named by what it switches.
+bool IsSilent(QStringView word, QStringView path) {
+  return SameWord(word, u"Visible") && !path.isEmpty() && !IsTextAndSwitch(path);
+}
+
 /// Appends the word in its canonical form; false when it is none.
 bool AppendWord(QStringView word, QString* path) {
   if (word.isEmpty() || word == u"#") return false;
   if (!std::all_of(word.begin(), word.end(), IsPathCharacter)) return false;
+  if (IsSilent(word, *path)) return true;
   if (!path->isEmpty()) path->append(u'.');
   const auto digits = MemberDigits(word);
   if (!digits) {
@@ -102,20 +114,6 @@ bool AppendWord(QStringView word, QString* path) {
   const int number = MemberNumber(*digits);
   path->append(word.first(word.size() - digits->size())).append(QString::number(number));
   return number > 0;
-}
-
-/// The place names of a surface are switched only; their "Name" is no text.
-bool IsTextAndSwitch(QStringView path) {
-  return IsOneOf(LastWord(path), kTextAndSwitch) &&
-         !SameWord(LastWord(ParentPath(path)), u"Surface");
-}
-
-void DropVisible(QString* path) {
-  while (SameWord(LastWord(*path), u"Visible")) {
-    const QStringView body = ParentPath(*path);
-    if (body.isEmpty() || IsTextAndSwitch(body)) return;
-    path->truncate(body.size());
-  }
 }
 
 void NameTheMoon(QString* path) {
@@ -191,7 +189,6 @@ QString CanonicalPath(QStringView path) {
   for (const QStringView word : path.tokenize(u'.')) {
     if (!AppendWord(word, &canonical)) return {};
   }
-  DropVisible(&canonical);
   NameTheMoon(&canonical);
   return canonical;
 }

@@ -54,7 +54,7 @@ PropertyNode* PropertyTree::Find(QStringView path) const {
 }
 
 QString PropertyTree::Canonical(QStringView path) const {
-  const QString canonical = CanonicalPath(path);
+  QString canonical = CanonicalPath(path);
   if (!HasLabel(canonical)) return canonical;
   QString numbered;
   for (const QStringView word : QStringView(canonical).tokenize(u'.')) {

@@ -10,6 +10,11 @@
 
 #include "engine/reference_engine.h"
 
+/// Where the test library looks for it: beside the type.
+inline void PrintTo(const QString& text, std::ostream* out) {
+  *out << '"' << text.toStdString() << '"';
+}
+
 namespace vyn {
 
 struct EngineCase {
@@ -21,10 +26,6 @@ struct EngineCase {
 };
 
 inline void PrintTo(const EngineCase& row, std::ostream* out) { *out << row.name; }
-
-inline void PrintTo(const QString& text, std::ostream* out) {
-  *out << '"' << text.toStdString() << '"';
-}
 
 inline QString ReplyIn(const EngineCase& row) {
   ReferenceEngine engine;

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QPointingDevice>
 #include <QRadioButton>
+#include <QSet>
 #include <QSlider>
 #include <QStyleOptionButton>
 #include <QTest>
@@ -78,6 +79,13 @@ KeyStroke ReadKeyStroke(const QString& text) {
   return stroke;
 }
 
+/// What a key writes: its letter, small without Shift; other keys as the toolkit has it.
+QString TextOf(const KeyStroke& stroke) {
+  const QString text = QString::fromLatin1(QByteArray(1, QTest::keyToAscii(stroke.key)));
+  if (text == QChar(0)) return {};
+  return stroke.modifiers.testFlag(Qt::ShiftModifier) ? text.toUpper() : text;
+}
+
 /// The keyboard goes to one control of a window; a person moves it there first.
 QWidget* TakeKeyboard(QWidget& widget) {
   if (widget.isWindow()) return widget.focusWidget() != nullptr ? widget.focusWidget() : &widget;
@@ -85,6 +93,21 @@ QWidget* TakeKeyboard(QWidget& widget) {
     widget.setFocus(Qt::OtherFocusReason);
   }
   return &widget;
+}
+
+QSet<QAbstractButton*> ButtonsDown(const QWidget& window) {
+  QSet<QAbstractButton*> down;
+  for (auto* button : window.findChildren<QAbstractButton*>()) {
+    if (button->isDown()) down.insert(button);
+  }
+  return down;
+}
+
+/// A mnemonic holds its button down for a moment before it clicks.
+void WaitForRelease(const QPointer<QWidget>& window, const QSet<QAbstractButton*>& downBefore) {
+  while (window && !(ButtonsDown(*window) - downBefore).isEmpty()) {
+    QAbstractEventDispatcher::instance()->processEvents(QEventLoop::WaitForMoreEvents);
+  }
 }
 
 Qt::Key KeyOf(char32_t character) {
@@ -150,7 +173,12 @@ void Drag(QWidget& widget, QPointF from, QPointF to) {
 
 void PressKey(QWidget& widget, const QString& key) {
   const KeyStroke stroke = ReadKeyStroke(key);
-  if (IsUsable(widget)) QTest::keyClick(TakeKeyboard(widget), stroke.key, stroke.modifiers);
+  if (!IsUsable(widget)) return;
+  const QPointer<QWidget> window(widget.window());
+  const QSet<QAbstractButton*> downBefore = ButtonsDown(*window);
+  QTest::sendKeyEvent(QTest::Click, TakeKeyboard(widget), stroke.key, TextOf(stroke),
+                      stroke.modifiers);
+  WaitForRelease(window, downBefore);
 }
 
 void TypeText(QWidget& widget, const QString& text) {

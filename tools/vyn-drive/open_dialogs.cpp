@@ -4,6 +4,7 @@
 #include <ranges>
 
 #include "core_link/window_message.h"
+#include "tools/vyn-drive/input.h"
 #include "tools/vyn-drive/output.h"
 #include "tools/vyn-drive/script.h"
 
@@ -36,17 +37,31 @@ void OpenDialogs::Open(const QString& className, CCorVyn* commandHandle, CCorVyn
 }
 
 void OpenDialogs::Add(CVynDialog& dialog) {
+  const bool isKnown = std::erase(dialogs_, &dialog) > 0;
   dialogs_.emplace_back(&dialog);
+  if (isKnown) return;
   QObject::connect(&dialog, &QDialog::finished, &dialog,
                    [name = ClassName(dialog)](int result) { ReportClosing(name, result); });
 }
 
-CVynDialog& OpenDialogs::Active() const {
+CVynDialog* OpenDialogs::FindActive() const {
   const auto reversed = dialogs_ | std::views::reverse;
   const auto open = std::ranges::find_if(
       reversed, [](const QPointer<CVynDialog>& dialog) { return dialog && dialog->isVisible(); });
-  if (open == reversed.end()) throw ScriptError{u"no dialog is open"_s};
-  return **open;
+  return open != reversed.end() ? open->data() : nullptr;
+}
+
+void OpenDialogs::Activate() const {
+  CVynDialog* dialog = FindActive();
+  if (dialog == nullptr || dialog->isActiveWindow()) return;
+  dialog->activateWindow();
+  Settle();
+}
+
+CVynDialog& OpenDialogs::Active() const {
+  CVynDialog* dialog = FindActive();
+  if (dialog == nullptr) throw ScriptError{u"no dialog is open"_s};
+  return *dialog;
 }
 
 QWidget& OpenDialogs::Control(int id) const {

@@ -27,8 +27,11 @@ class OpenDialogs {
   void Open(const QString& className, CCorVyn* commandHandle, CCorVyn* secondHandle,
             Arguments& words);
 
-  /// A dialog that came up by itself; reports its closing.
+  /// A dialog that came up, perhaps not for the first time; reports its closing.
   void Add(CVynDialog& dialog);
+
+  /// Gives the keyboard to the active dialog, as a window manager does when another window closes.
+  void Activate() const;
 
   /// Throws ScriptError when no dialog is open.
   CVynDialog& Active() const;
@@ -37,6 +40,8 @@ class OpenDialogs {
   QWidget& Control(int id) const;
 
  private:
+  CVynDialog* FindActive() const;
+
   ParentWindow parent_;
   std::vector<std::unique_ptr<CVynDialog>> owned_;
   std::vector<QPointer<CVynDialog>> dialogs_;

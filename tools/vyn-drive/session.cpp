@@ -53,6 +53,7 @@ void Session::RunLine(const ScriptLine& line) {
   if (!words.isEmpty()) {
     const Command& command = FindCommand(words.takeFirst());
     Arguments arguments(words);
+    dialogs.Activate();
     command.run(*this, arguments);
     Settle();
   }

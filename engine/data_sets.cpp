@@ -37,7 +37,7 @@ QString FreeLabel(PropertyTree& tree, const QString& basePath, int number) {
     });
   }
   for (int n = number;; ++n) {
-    const QString label = u"I%1"_s.arg(n, 2, 10, QChar(u'0'));
+    QString label = u"I%1"_s.arg(n, 2, 10, QChar(u'0'));
     if (!taken.contains(label)) return label;
   }
 }

@@ -1,0 +1,35 @@
+// One frame: all that a picture of the sky or of the solar system is painted from.
+#pragma once
+
+#include <QSizeF>
+#include <QString>
+
+#include "host/display_state.h"
+#include "host/scene.h"
+#include "host/view_state.h"
+
+class QPainter;
+
+namespace vyn {
+
+class ReferenceEngine;
+
+struct Frame {
+  QSizeF size;  ///< of the picture, in pixels
+  ViewState view;
+  DisplayState display;
+  Scene scene;
+  QString dateText;    ///< for labels, in the engine's time zone
+  QString momentText;  ///< date and time
+  QString placeText;   ///< body, longitude and latitude of the observer
+};
+
+Frame ReadFrame(ReferenceEngine& engine, const QSizeF& size);
+
+/// Paints the frame over the whole picture.
+void PaintFrame(QPainter& painter, const Frame& frame);
+
+/// What a body's label says: its name and date, as they are switched on.
+QString LabelText(const Frame& frame, Body body);
+
+}  // namespace vyn

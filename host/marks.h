@@ -1,0 +1,24 @@
+// The marks of Lagrangian points, the same in both views.
+#pragma once
+
+#include <optional>
+
+#include "host/labels.h"
+
+namespace vyn {
+
+/// Marks the five points of one body, L1 first.
+class LagrangianMarks {
+ public:
+  LagrangianMarks(QPainter& painter, LabelLayer& labels) : painter_(painter), labels_(labels) {}
+
+  /// The next point's place in the picture; nothing when it is not in sight.
+  void Next(const std::optional<QPointF>& at);
+
+ private:
+  QPainter& painter_;
+  LabelLayer& labels_;
+  int number_ = 0;
+};
+
+}  // namespace vyn

@@ -1,0 +1,72 @@
+// Where everything is at one moment, and as seen from where: what both views paint.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include <QString>
+
+#include "engine/sky/bodies.h"
+#include "host/body_table.h"
+#include "siblings/astro/direction_cosines.h"
+
+namespace vyn {
+
+class ReferenceEngine;
+enum class ViewKind;
+
+/// The Sun, the Moon or a planet. Vectors are in au, in the ecliptic of J2000.
+struct SceneBody {
+  Body body = Body::Sun;
+  Vector3 heliocentric;
+  Vector3 seen;  ///< from the observer, where light shows it
+  double magnitude = 0.0;
+
+  double RadiusAu() const { return FactsOf(body).radiusKm / kKmPerAu; }
+  /// Half the angle under which the disk is seen.
+  double RadiusRad() const;
+};
+
+struct SceneComet {
+  int object = 0;  ///< in the loaded element file
+  Vector3 heliocentric;
+  Vector3 seen;
+  double magnitude = 0.0;  ///< NaN when not known
+  QString name;            ///< as it is to be shown; empty when no name is
+};
+
+/// Whether its name is switched on and the comet bright enough to be named on a crowded picture.
+inline bool IsWorthALabel(const SceneComet& comet) {
+  constexpr double kFaintest = 16.0;
+  return !comet.name.isEmpty() && comet.magnitude <= kFaintest;
+}
+
+/// Where the observer stands.
+struct Viewpoint {
+  Body body = Body::Earth;
+  Vector3 position;  ///< relative to the Sun
+  Vector3 velocity;
+  /// From the ecliptic of J2000 to the frame of the sky view, right-handed with z upwards. In
+  /// horizontal coordinates x points north, so that the longitude is minus the azimuth; in ecliptic
+  /// coordinates to the equinox of date.
+  Matrix3 toView;
+  Matrix3 toHorizon;      ///< the same for horizontal coordinates, whatever the view
+  Matrix3 toEcliptic;     ///< and for ecliptic ones
+  Vector3 celestialPole;  ///< north pole of the Earth's equator of date
+};
+
+struct Scene {
+  double jdUt = 0.0;
+  double jdTt = 0.0;
+  Viewpoint viewpoint;
+  std::array<SceneBody, kBodyCount> bodies;
+  std::vector<SceneComet> comets;  ///< those that are switched on
+
+  const SceneBody& Of(Body body) const { return bodies[IndexOf(body)]; }
+};
+
+/// Reads the moment, the place and the loaded comets of the engine. A comet is there when it is
+/// switched on itself or is brighter than the limit in force.
+Scene BuildScene(const ReferenceEngine& engine, ViewKind view);
+
+}  // namespace vyn

@@ -1,0 +1,11 @@
+// Paints the Sun, the Moon, the planets and the comets of the sky view.
+#pragma once
+
+namespace vyn {
+
+struct SkyCanvas;
+
+void PaintSkyBodies(SkyCanvas& canvas);
+void PaintSkyComets(SkyCanvas& canvas);
+
+}  // namespace vyn

@@ -1,0 +1,23 @@
+#include "host/sky_painter.h"
+
+#include "host/sky_background.h"
+#include "host/sky_bodies.h"
+#include "host/sky_canvas.h"
+#include "host/sky_marks.h"
+
+namespace vyn {
+
+void PaintSky(QPainter& painter, const Frame& frame) {
+  SkyCanvas canvas(painter, frame);
+  PaintSkyBackground(canvas);
+  PaintSkyGrid(canvas);
+  PaintSkyOrbits(canvas);
+  PaintSkyComets(canvas);
+  PaintSkyBodies(canvas);
+  PaintEarthShadow(canvas);
+  PaintSkyLagrangianMarks(canvas);
+  PaintGround(canvas);
+  canvas.labels.Paint(painter);
+}
+
+}  // namespace vyn

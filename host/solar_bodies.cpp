@@ -1,0 +1,103 @@
+#include "host/solar_bodies.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "host/disk_painter.h"
+#include "host/moon_names.h"
+#include "host/point_batches.h"
+#include "host/solar_canvas.h"
+#include "host/solar_eclipse.h"
+
+namespace vyn {
+namespace {
+
+/// Planets never shrink below a point; Jupiter's is the largest.
+double PointRadius(Body body) {
+  return std::clamp(std::log10(FactsOf(body).radiusKm) * 1.6 - 3.6, 1.8, 4.4);
+}
+
+double DiskRadius(const SolarCanvas& canvas, const SceneBody& body, const BodyDisplay& display) {
+  const double radius =
+      body.RadiusAu() * canvas.camera.PixelsPerAu(body.heliocentric) * display.multiplier;
+  if (body.body == Body::Sun) return std::max({radius, display.minimumSizePixels, 3.0});
+  return std::max(radius, PointRadius(body.body));
+}
+
+/// From afar the Moon is one with the Earth.
+bool IsHiddenInEarth(const SolarCanvas& canvas, const SceneBody& body) {
+  if (body.body != Body::Moon) return false;
+  const Vector3& earth = canvas.frame.scene.Of(Body::Earth).heliocentric;
+  return Length(body.heliocentric - earth) * canvas.camera.PixelsPerAu(earth) < 8.0;
+}
+
+void PaintSunDisk(SolarCanvas& canvas, const Disk& disk, const BodyDisplay& display) {
+  if (display.halo && display.surface) PaintHalo(canvas.painter, disk);
+  if (display.surface) PaintSun(canvas.painter, disk);
+  if (display.outline) PaintOutline(canvas.painter, disk, false);
+}
+
+void PaintMoonDisk(SolarCanvas& canvas, const Disk& disk, const BodyDisplay& display) {
+  if (display.surface) PaintMoonSurface(canvas.painter, disk);
+  if (display.outline) PaintOutline(canvas.painter, disk, true);
+  if (display.placeNames) PaintMoonNames(canvas.painter, disk, display, canvas.labels);
+}
+
+void PaintDisk(SolarCanvas& canvas, const SceneBody& body, const Disk& disk,
+               const BodyDisplay& display) {
+  if (body.body == Body::Sun) {
+    PaintSunDisk(canvas, disk, display);
+  } else if (body.body == Body::Moon) {
+    PaintMoonDisk(canvas, disk, display);
+  } else {
+    PaintLitSurface(canvas.painter, disk);
+  }
+  if (display.grid) PaintGrid(canvas.painter, disk);
+  if (body.body == Body::Earth) PaintSolarEclipse(canvas, disk);
+  if (display.compass) PaintCompass(canvas.painter, disk, canvas.labels);
+}
+
+void PaintBody(SolarCanvas& canvas, const SceneBody& body) {
+  const BodyDisplay& display = canvas.frame.display.Of(body.body);
+  if (!display.isVisible || IsHiddenInEarth(canvas, body)) return;
+  const auto at = canvas.camera.ToPicture(body.heliocentric);
+  if (!at) return;
+  const Scene& scene = canvas.frame.scene;
+  Disk disk = DiskOf(body, scene.jdTt, body.heliocentric - canvas.camera.Eye(),
+                     canvas.camera.AxesAt(body.heliocentric), scene.viewpoint.celestialPole);
+  disk.center = *at;
+  disk.radius = DiskRadius(canvas, body, display);
+  if (!canvas.IsInPicture(*at, 5.0 * disk.radius + 60.0)) return;
+  PaintDisk(canvas, body, disk, display);
+  canvas.labels.ReserveFromFaint(disk.Bounds());
+  canvas.labels.Add({disk.center, disk.radius + (display.compass ? 24.0 : 5.0),
+                     LabelText(canvas.frame, body.body), StyleOr(display.nameStyle, disk.color)});
+}
+
+}  // namespace
+
+/// The nearest last, so that it covers the others.
+void PaintSolarBodies(SolarCanvas& canvas) {
+  std::array<const SceneBody*, kBodyCount> bodies{};
+  std::transform(canvas.frame.scene.bodies.begin(), canvas.frame.scene.bodies.end(), bodies.begin(),
+                 [](const SceneBody& body) { return &body; });
+  std::sort(bodies.begin(), bodies.end(), [&](const SceneBody* a, const SceneBody* b) {
+    return canvas.camera.DepthAu(a->heliocentric) > canvas.camera.DepthAu(b->heliocentric);
+  });
+  for (const SceneBody* body : bodies) PaintBody(canvas, *body);
+}
+
+void PaintSolarComets(SolarCanvas& canvas) {
+  CometPoints points;
+  const LabelStyle style = StyleOr(canvas.frame.display.cometStyle, CometPoints::Color());
+  for (const SceneComet& comet : canvas.frame.scene.comets) {
+    const auto at = canvas.camera.ToPicture(comet.heliocentric);
+    if (!at || !canvas.IsInPicture(*at, 4.0)) continue;
+    points.Add(*at, comet.magnitude);
+    if (IsWorthALabel(comet)) canvas.labels.Add({*at, 4.0, comet.name, style, LabelRank::Faint});
+  }
+  points.Paint(canvas.painter);
+}
+
+}  // namespace vyn

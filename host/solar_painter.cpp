@@ -1,0 +1,23 @@
+#include "host/solar_painter.h"
+
+#include "host/solar_bodies.h"
+#include "host/solar_canvas.h"
+#include "host/solar_lines.h"
+#include "host/solar_regions.h"
+
+namespace vyn {
+
+void PaintSolarSystem(QPainter& painter, const Frame& frame) {
+  SolarCanvas canvas(painter, frame);
+  painter.fillRect(QRectF(QPointF(), frame.size), QColor(4, 6, 14));
+  PaintEclipticGrid(canvas);
+  PaintSolarRegions(canvas);
+  PaintCosmicScale(canvas);
+  PaintSolarOrbits(canvas);
+  PaintSolarComets(canvas);
+  PaintSolarBodies(canvas);
+  PaintSolarLagrangianMarks(canvas);
+  canvas.labels.Paint(painter);
+}
+
+}  // namespace vyn

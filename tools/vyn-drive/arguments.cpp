@@ -44,7 +44,7 @@ double Arguments::Coordinate(QStringView what, int extent) {
 
 QString Arguments::Text(QStringView what) {
   if (words_.isEmpty()) throw ScriptError{u"missing argument: "_s + what};
-  const QString text = words_.join(u' ');
+  QString text = words_.join(u' ');
   words_.clear();
   return text;
 }

@@ -212,6 +212,7 @@ void PressSpin(CVynSpinButton& spin, bool up, int times, Qt::KeyboardModifiers m
 void MoveSlider(QSlider& slider, int position) {
   if (!IsUsable(slider)) return;
   const QPointer<QSlider> target(&slider);
+  if (slider.focusPolicy() & Qt::ClickFocus) slider.setFocus(Qt::MouseFocusReason);
   slider.setSliderDown(true);
   slider.setSliderPosition(position);
   if (target) slider.setSliderDown(false);

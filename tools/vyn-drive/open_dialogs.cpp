@@ -1,7 +1,6 @@
 #include "tools/vyn-drive/open_dialogs.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "core_link/window_message.h"
 #include "tools/vyn-drive/input.h"
@@ -45,10 +44,10 @@ void OpenDialogs::Add(CVynDialog& dialog) {
 }
 
 CVynDialog* OpenDialogs::FindActive() const {
-  const auto reversed = dialogs_ | std::views::reverse;
-  const auto open = std::ranges::find_if(
-      reversed, [](const QPointer<CVynDialog>& dialog) { return dialog && dialog->isVisible(); });
-  return open != reversed.end() ? open->data() : nullptr;
+  const auto open = std::find_if(dialogs_.rbegin(), dialogs_.rend(), [](const auto& dialog) {
+    return dialog != nullptr && dialog->isVisible();
+  });
+  return open != dialogs_.rend() ? open->data() : nullptr;
 }
 
 void OpenDialogs::Activate() const {

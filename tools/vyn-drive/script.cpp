@@ -23,7 +23,7 @@ class WordReader {
   QString PlainWord() {
     qsizetype end = 0;
     while (end < rest_.size() && !IsBlank(rest_[end])) ++end;
-    const QString word = rest_.first(end).toString();
+    QString word = rest_.first(end).toString();
     rest_ = rest_.sliced(end);
     return word;
   }

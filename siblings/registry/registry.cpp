@@ -53,7 +53,7 @@ void CRegistry::DeleteValue(const QString& name) { Settings().remove(Path(name))
 QStringList CRegistry::GetRegEnumValue() const {
   QSettings& settings = Settings();
   settings.beginGroup(group_);
-  const QStringList names = settings.childKeys();
+  QStringList names = settings.childKeys();
   settings.endGroup();
   return names;
 }

@@ -16,6 +16,7 @@ namespace vyn {
 namespace {
 
 const QColor kPlainColor(92, 94, 102, 78);
+constexpr double kSmallestMoonWithCraters = 60.0;
 const QColor kNightColor(6, 8, 16, 215);
 
 Matrix3 DiskFrame(const Vector3& lineOfSight, const PictureAxes& axes) {
@@ -51,6 +52,21 @@ QPainterPath Plains(const Disk& disk, double enlargement) {
     }
   }
   return plains;
+}
+
+/// Bright rings for the craters that have a name.
+void PaintCraters(QPainter& painter, const Disk& disk) {
+  constexpr double kLargestCraterKm = 235.0;
+  painter.setBrush(QColor(255, 252, 240, 70));
+  painter.setPen(QPen(QColor(255, 252, 240, 150), 1.0));
+  for (const MoonFeature& feature : MoonFeatures()) {
+    if (feature.diameterKm > kLargestCraterKm) continue;
+    if (!disk.AtPlace(feature.longitudeDeg, feature.latitudeDeg)) continue;
+    const double radiusDeg = feature.diameterKm / 2.0 / FactsOf(Body::Moon).radiusKm * kDegPerRad;
+    painter.drawPolygon(
+        VisibleSpot(disk, {feature.longitudeDeg, feature.latitudeDeg, radiusDeg}, 1.0));
+  }
+  painter.setPen(Qt::NoPen);
 }
 
 /// A circle of the body as a line, its far side left out.
@@ -130,9 +146,9 @@ void PaintSun(QPainter& painter, const Disk& disk) {
 
 void PaintLitSurface(QPainter& painter, const Disk& disk) {
   painter.setPen(Qt::NoPen);
-  painter.setBrush(disk.color.darker(500));
+  painter.setBrush(disk.color.darker(600));
   painter.drawEllipse(disk.center, disk.radius, disk.radius);
-  painter.setBrush(disk.color);
+  painter.setBrush(disk.color.darker(130));
   painter.drawPath(LitPart(disk));
 }
 
@@ -146,6 +162,7 @@ void PaintMoonSurface(QPainter& painter, const Disk& disk) {
   for (const double enlargement : {1.14, 1.05, 0.95}) {
     painter.drawPath(Plains(disk, enlargement));
   }
+  if (disk.radius > kSmallestMoonWithCraters) PaintCraters(painter, disk);
   QPainterPath limb;
   limb.addEllipse(disk.center, disk.radius + 0.5, disk.radius + 0.5);
   painter.setBrush(kNightColor);

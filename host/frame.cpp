@@ -57,10 +57,10 @@ QString ExtentText(const Frame& frame) {
 void PaintStatus(QPainter& painter, const Frame& frame) {
   const QString text =
       QStringList{frame.momentText, frame.placeText, ExtentText(frame)}.join(u"　"_s);
-  const QFont font = LabelFont(10);
-  const double width = QFontMetricsF(font).horizontalAdvance(text);
-  DrawText(painter, {12.0, frame.size.height() - 28.0, width, 20.0}, text,
-           {QColor(0xC8, 0xD4, 0xE8), font});
+  QRectF area = StatusArea(frame.size);
+  const LabelStyle style{QColor(0xC8, 0xD4, 0xE8), LabelFont(10)};
+  area.setWidth(QFontMetricsF(style.font).horizontalAdvance(text));
+  DrawText(painter, area, text, style);
 }
 
 }  // namespace
@@ -86,6 +86,10 @@ void PaintFrame(QPainter& painter, const Frame& frame) {
     PaintSky(painter, frame);
   }
   PaintStatus(painter, frame);
+}
+
+QRectF StatusArea(const QSizeF& pictureSize) {
+  return {12.0, pictureSize.height() - 28.0, 540.0, 20.0};
 }
 
 QString LabelText(const Frame& frame, Body body) {

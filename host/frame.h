@@ -1,6 +1,7 @@
 // One frame: all that a picture of the sky or of the solar system is painted from.
 #pragma once
 
+#include <QRectF>
 #include <QSizeF>
 #include <QString>
 
@@ -28,6 +29,9 @@ Frame ReadFrame(ReferenceEngine& engine, const QSizeF& size);
 
 /// Paints the frame over the whole picture.
 void PaintFrame(QPainter& painter, const Frame& frame);
+
+/// Where the line stands that tells moment, place and extent; labels stay out of it.
+QRectF StatusArea(const QSizeF& pictureSize);
 
 /// What a body's label says: its name and date, as they are switched on.
 QString LabelText(const Frame& frame, Body body);

@@ -90,6 +90,10 @@ int main(int argc, char** argv) {
   const std::optional<Options> options = ReadOptions(argc, argv);
   if (!options) return EXIT_FAILURE;
   vyn::ExplainMissingDisplay();
+  // The tour shows nothing on a screen.
+  if (!options->tour.isEmpty() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
   QApplication application(argc, argv);
   return Run(application, *options);
 }

@@ -17,7 +17,9 @@ SkyCanvas::SkyCanvas(QPainter& painter, const Frame& frame)
     : painter(painter),
       frame(frame),
       projection(SkyMiddle(frame), frame.view.angleDeg, frame.size),
-      labels(frame.size) {}
+      labels(frame.size) {
+  labels.Reserve(StatusArea(frame.size));
+}
 
 PictureAxes SkyCanvas::AxesAt(const Vector3& vector) const {
   const PictureAxes axes = projection.AxesAt(ToView(vector));

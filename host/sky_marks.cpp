@@ -51,6 +51,17 @@ struct ShadowEdge {
   QString name;
 };
 
+/// Outside the edge.
+void AddEdgeLabel(SkyCanvas& canvas, const Vector3& middle, const Vector3& onEdge,
+                  const ShadowEdge& edge) {
+  const auto from = canvas.At(middle);
+  const auto to = canvas.At(onEdge);
+  if (!from || !to) return;
+  const QPointF outward = (*to - *from) / std::hypot(to->x() - from->x(), to->y() - from->y());
+  canvas.labels.Add(
+      {*to + 18.0 * outward, 0.0, edge.name, {edge.color, LabelFont(9)}, LabelRank::Place, true});
+}
+
 /// The shadow's edge where the Moon's distance is, so that it is seen from the site as the Moon is.
 void PaintShadowEdge(SkyCanvas& canvas, const EarthShadow& shadow, const ShadowEdge& edge) {
   if (!edge.isOn) return;
@@ -66,14 +77,7 @@ void PaintShadowEdge(SkyCanvas& canvas, const EarthShadow& shadow, const ShadowE
     line.To(canvas.At(place));
   }
   canvas.Stroke(line.Path(), QPen(edge.color, 1.4));
-  if (const auto top = canvas.At(middle + origin - size * Cross(across, shadow.axis))) {
-    canvas.labels.Add({*top - QPointF(0.0, 9.0),
-                       0.0,
-                       edge.name,
-                       {edge.color, LabelFont(9)},
-                       LabelRank::Place,
-                       true});
-  }
+  AddEdgeLabel(canvas, middle + origin, middle + origin - size * Cross(across, shadow.axis), edge);
 }
 
 }  // namespace

@@ -18,6 +18,9 @@ double PointRadius(Body body) {
   return std::clamp(std::log10(FactsOf(body).radiusKm) * 1.6 - 3.6, 1.8, 4.4);
 }
 
+/// Smaller disks show no night side: their planets could not be found against the dark.
+constexpr double kSmallestSphere = 5.0;
+
 double DiskRadius(const SolarCanvas& canvas, const SceneBody& body, const BodyDisplay& display) {
   const double radius =
       body.RadiusAu() * canvas.camera.PixelsPerAu(body.heliocentric) * display.multiplier;
@@ -25,11 +28,12 @@ double DiskRadius(const SolarCanvas& canvas, const SceneBody& body, const BodyDi
   return std::max(radius, PointRadius(body.body));
 }
 
-/// From afar the Moon is one with the Earth.
-bool IsHiddenInEarth(const SolarCanvas& canvas, const SceneBody& body) {
-  if (body.body != Body::Moon) return false;
-  const Vector3& earth = canvas.frame.scene.Of(Body::Earth).heliocentric;
-  return Length(body.heliocentric - earth) * canvas.camera.PixelsPerAu(earth) < 8.0;
+/// From afar the Moon is one with the Earth, and the planets with the Sun.
+bool IsOneWithItsCentre(const SolarCanvas& canvas, const SceneBody& body) {
+  if (body.body == Body::Sun || body.body == canvas.frame.view.center) return false;
+  const Body center = body.body == Body::Moon ? Body::Earth : Body::Sun;
+  const Vector3& place = canvas.frame.scene.Of(center).heliocentric;
+  return Length(body.heliocentric - place) * canvas.camera.PixelsPerAu(place) < 8.0;
 }
 
 void PaintSunDisk(SolarCanvas& canvas, const Disk& disk, const BodyDisplay& display) {
@@ -44,10 +48,18 @@ void PaintMoonDisk(SolarCanvas& canvas, const Disk& disk, const BodyDisplay& dis
   if (display.placeNames) PaintMoonNames(canvas.painter, disk, display, canvas.labels);
 }
 
+void PaintSpot(QPainter& painter, const Disk& disk) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(disk.color);
+  painter.drawEllipse(disk.center, disk.radius, disk.radius);
+}
+
 void PaintDisk(SolarCanvas& canvas, const SceneBody& body, const Disk& disk,
                const BodyDisplay& display) {
   if (body.body == Body::Sun) {
     PaintSunDisk(canvas, disk, display);
+  } else if (disk.radius < kSmallestSphere) {
+    PaintSpot(canvas.painter, disk);
   } else if (body.body == Body::Moon) {
     PaintMoonDisk(canvas, disk, display);
   } else {
@@ -60,7 +72,7 @@ void PaintDisk(SolarCanvas& canvas, const SceneBody& body, const Disk& disk,
 
 void PaintBody(SolarCanvas& canvas, const SceneBody& body) {
   const BodyDisplay& display = canvas.frame.display.Of(body.body);
-  if (!display.isVisible || IsHiddenInEarth(canvas, body)) return;
+  if (!display.isVisible || IsOneWithItsCentre(canvas, body)) return;
   const auto at = canvas.camera.ToPicture(body.heliocentric);
   if (!at) return;
   const Scene& scene = canvas.frame.scene;

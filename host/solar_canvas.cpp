@@ -9,7 +9,9 @@ SolarCanvas::SolarCanvas(QPainter& painter, const Frame& frame)
       frame(frame),
       camera(frame.scene.Of(frame.view.center).heliocentric, frame.view.outside,
              frame.view.distanceAu, frame.size),
-      labels(frame.size) {}
+      labels(frame.size) {
+  labels.Reserve(StatusArea(frame.size));
+}
 
 bool SolarCanvas::IsInPicture(const QPointF& point, double margin) const {
   return QRectF(QPointF(), frame.size).adjusted(-margin, -margin, margin, margin).contains(point);
@@ -25,16 +27,20 @@ double SolarCanvas::PixelsAtTarget(double lengthAu) const {
   return lengthAu * camera.PixelsPerAu(camera.Target());
 }
 
+double DistanceUnitAu(double distanceAu) {
+  constexpr double kLightYearAu = 63241.077;
+  if (distanceAu < 0.05) return 1.0 / kKmPerAu;
+  return distanceAu < 4.0 * kLightYearAu ? 1.0 : kLightYearAu;
+}
+
 QString DistanceText(double distanceAu) {
   using namespace Qt::StringLiterals;
-  constexpr double kManKm = 1e4 / kKmPerAu;
-  constexpr double kLightYearAu = 63241.077;
-  if (distanceAu < kManKm) return u"%1 km"_s.arg(distanceAu * kKmPerAu, 0, 'f', 0);
-  if (distanceAu < 0.05) return u"%1万 km"_s.arg(std::round(distanceAu / kManKm * 10.0) / 10.0);
-  if (distanceAu < kLightYearAu)
-    return u"%1 au"_s.arg(distanceAu, 0, distanceAu < 100.0 ? 'g' : 'f',
-                          distanceAu < 100.0 ? 3 : 0);
-  return u"%1光年"_s.arg(distanceAu / kLightYearAu, 0, 'g', 3);
+  const double unit = DistanceUnitAu(distanceAu);
+  const double number = distanceAu / unit;
+  if (unit > 1.0) return u"%1光年"_s.arg(number, 0, 'g', 3);
+  if (number >= 1e4)
+    return u"%1万 %2"_s.arg(number / 1e4, 0, 'g', 4).arg(unit < 1.0 ? u"km"_s : u"au"_s);
+  return u"%1 %2"_s.arg(number, 0, 'g', 4).arg(unit < 1.0 ? u"km"_s : u"au"_s);
 }
 
 }  // namespace vyn

@@ -27,4 +27,7 @@ struct SolarCanvas {
 /// A distance in kilometres, astronomical units or light years, whichever is easiest to grasp.
 QString DistanceText(double distanceAu);
 
+/// The unit in which that distance is told, in au.
+double DistanceUnitAu(double distanceAu);
+
 }  // namespace vyn

@@ -17,12 +17,14 @@ using namespace Qt::StringLiterals;
 const QColor kGridColor(86, 112, 164, 70);
 const QColor kGridTextColor(122, 144, 190);
 
-/// 1, 2 or 5 times a power of ten, about a sixth of what the picture shows.
+/// 1, 2 or 5 times a power of ten of the unit in which distances are told, about a sixth of what
+/// the picture shows.
 double GridStepAu(double distanceAu) {
-  const double wanted = distanceAu / 9.0;
+  const double unit = DistanceUnitAu(distanceAu);
+  const double wanted = distanceAu / 9.0 / unit;
   const double power = std::pow(10.0, std::floor(std::log10(wanted)));
   const double part = wanted / power;
-  return power * (part < 2.0 ? 1.0 : part < 5.0 ? 2.0 : 5.0);
+  return unit * power * (part < 2.0 ? 1.0 : part < 5.0 ? 2.0 : 5.0);
 }
 
 std::vector<Vector3> EclipticCircle(const Vector3& center, double radiusAu) {

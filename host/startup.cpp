@@ -27,7 +27,7 @@ void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
   std::fprintf(stderr,
                "vyn-planetarium: cannot open a window: there is no display.\n"
                "Start it in a graphical session, or play the tour without one:\n"
-               "  QT_QPA_PLATFORM=offscreen vyn-planetarium --tour FOLDER\n");
+               "  vyn-planetarium --tour FOLDER\n");
   std::_Exit(EXIT_FAILURE);
 }
 

@@ -40,28 +40,28 @@ struct DialogStop {
 constexpr Stop kStops[] = {
   {u"sky_horizon",   u"View.Azimuth = 130; View.Altitude = 40; View.Angle = 100; Show Sky"},
   {u"sky_ecliptic",  u"View.Coordinate = Ecliptic; View.Longitude = 60; View.Latitude = 0; View.Angle = 110;"
-                     u"Solar.Planet.Orbit.InTheSky.Visible = FALSE; solar.moon.orbit.visible = TRUE; Show Sky"},
+                     u" solar.moon.orbit.visible = TRUE; Show Sky"},
   {u"moon",          u"View.Center = Solar.Moon; View.Center.Track = TRUE; View.Angle = 0.75;"
-                     u"solar.moon.surface.name.visible = TRUE; solar.moon.surface.name.leadline.visible = TRUE;"
-                     u"solar.moon.disk.compass.visible = TRUE; Show Sky"},
+                     u" solar.moon.surface.name.visible = TRUE; solar.moon.surface.name.leadline.visible = TRUE;"
+                     u" solar.moon.disk.compass.visible = TRUE; Show Sky"},
   {u"zodiacal_light", u"time = jst(2026, 3, 10, 19, 20, 0); View.Azimuth = 265; View.Altitude = 38; View.Angle = 95;"
-                     u"solar.ZodiacalLight.Visible = TRUE; solar.CounterGlow.Visible = TRUE; Show Sky"},
+                     u" solar.ZodiacalLight.Visible = TRUE; solar.CounterGlow.Visible = TRUE; Show Sky"},
   {u"lunar_eclipse", u"time = jst(2025, 9, 8, 1, 50, 0); View.Center = Solar.Moon; View.Center.Track = TRUE; View.Angle = 4;"
-                     u"solar.moon.disk.minimumSize = 0; solar.moon.orbit.visible = TRUE;"
-                     u"solar.planet.earth.umbra.outline.visible = TRUE; solar.planet.earth.penumbra.outline.visible = TRUE; Show Sky"},
+                     u" solar.moon.disk.minimumSize = 0; solar.moon.orbit.visible = TRUE;"
+                     u" solar.planet.earth.umbra.outline.visible = TRUE; solar.planet.earth.penumbra.outline.visible = TRUE; Show Sky"},
   {u"solar_system_inner", u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 8;"
-                     u"solar.MainBelt.Visible = TRUE; solar.HabitableZone.Visible = TRUE; Show Sky"},
+                     u" solar.MainBelt.Visible = TRUE; solar.HabitableZone.Visible = TRUE; Show Sky"},
   {u"solar_system_outer", u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 110;"
-                     u"solar.KuiperBelt.Visible = TRUE; Show Sky"},
+                     u" solar.KuiperBelt.Visible = TRUE; Show Sky"},
   {u"oort_cloud",    u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 250000;"
-                     u"solar.OortCloud.Visible = TRUE; CosmicScale.Visible = TRUE; Show Sky"},
+                     u" solar.OortCloud.Visible = TRUE; CosmicScale.Visible = TRUE; Show Sky"},
   {u"moon_orbit",    u"View.Projection = SolarSystem; View.Center = Solar.Planet.Earth; View.Outside.Distance = 0.009;"
-                     u"solar.moon.orbit.visible = TRUE; solar.moon.lagrangianpoint.mark.visible = TRUE; Show Sky"},
+                     u" solar.moon.orbit.visible = TRUE; solar.moon.lagrangianpoint.mark.visible = TRUE; Show Sky"},
   {u"solar_eclipse", u"time = jst(2026, 8, 13, 2, 30, 0); View.Projection = SolarSystem; View.Center = Solar.Planet.Earth;"
-                     u"View.Outside.Distance = 0.00018; View.Outside.Longitude = 132; View.Outside.Latitude = 42;"
-                     u"Solar.Planet.Earth.Disk.Grid.Visible = TRUE;"
-                     u"Solar.Planet.Earth.SolarEclipse.Path.Visible = TRUE; Solar.Planet.Earth.SolarEclipse.Umbra.Outline.Visible = TRUE;"
-                     u"Solar.Planet.Earth.SolarEclipse.Penumbra.Outline.Visible = TRUE; Show Sky"},
+                     u" View.Outside.Distance = 0.00018; View.Outside.Longitude = 132; View.Outside.Latitude = 42;"
+                     u" Solar.Planet.Earth.Disk.Grid.Visible = TRUE;"
+                     u" Solar.Planet.Earth.SolarEclipse.Path.Visible = TRUE; Solar.Planet.Earth.SolarEclipse.Umbra.Outline.Visible = TRUE;"
+                     u" Solar.Planet.Earth.SolarEclipse.Penumbra.Outline.Visible = TRUE; Show Sky"},
   {u"from_the_moon", u"location = location(20, 30, 0); View.Center = Solar.Planet.Earth; View.Center.Track = TRUE; View.Angle = 60; Show Sky", 1},
 };
 

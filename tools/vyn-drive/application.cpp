@@ -52,9 +52,10 @@ std::unique_ptr<QApplication> StartApplication(int& argc, char** argv) {
   qInstallMessageHandler(OnQtMessage);
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   auto application = std::make_unique<QApplication>(argc, argv);
-  // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style
+  // NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns its style
   QApplication::setStyle(new StillStyle);
   QApplication::setFont(QFont(JapaneseFamily(), 10));
+  // NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)
   QApplication::setCursorFlashTime(0);
   QApplication::setQuitOnLastWindowClosed(false);
   return application;

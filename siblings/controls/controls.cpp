@@ -1,5 +1,6 @@
 #include "siblings/controls/controls.h"
 
+#include <QButtonGroup>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -15,6 +16,12 @@ constexpr int kRepeatDelayMs = 400;
 constexpr int kRepeatIntervalMs = 60;
 
 QString CssColor(QRgb color) { return QColor::fromRgb(color).name(); }
+
+/// 1 for the arrows that walk on, -1 for those that walk back, 0 for any other key.
+int StepOf(int key) {
+  if (key == Qt::Key_Right || key == Qt::Key_Down) return 1;
+  return key == Qt::Key_Left || key == Qt::Key_Up ? -1 : 0;
+}
 
 }  // namespace
 
@@ -46,6 +53,21 @@ void CVynButton::SetColors(QRgb face, QRgb text, QRgb border) {
                                "QPushButton:focus { border: 1px solid %2; }"
                                "QPushButton:pressed { border: 1px inset %2; }")
                     .arg(CssColor(face), CssColor(text), CssColor(border)));
+}
+
+void CVynRadioButton::keyPressEvent(QKeyEvent* event) {
+  const int step = StepOf(event->key());
+  if (step == 0 || group() == nullptr) {
+    QRadioButton::keyPressEvent(event);
+    return;
+  }
+  const QList<QAbstractButton*> buttons = group()->buttons();
+  qsizetype index = buttons.indexOf(this);
+  do {
+    index = (index + step + buttons.size()) % buttons.size();
+  } while (!buttons[index]->isEnabled());
+  buttons[index]->setFocus(Qt::TabFocusReason);
+  buttons[index]->click();
 }
 
 CVynSpinButton::CVynSpinButton(QWidget* parent) : QWidget(parent) {

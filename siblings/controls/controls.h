@@ -58,11 +58,15 @@ class VYN_EXPORT CVynCheckBox : public QCheckBox {
   using QCheckBox::QCheckBox;
 };
 
+/// All four arrow keys walk round its group and choose as they go.
 class VYN_EXPORT CVynRadioButton : public QRadioButton {
   Q_OBJECT
 
  public:
   using QRadioButton::QRadioButton;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
 };
 
 class VYN_EXPORT CVynStatic : public QLabel {

@@ -12,7 +12,7 @@
 namespace vyn {
 namespace {
 
-constexpr int kBottomLineGap = 14;
+constexpr int kBottomLineGap = 8;
 
 /// Holds a group box and, above it and inside its frame, the controls that stand in it.
 class GroupFrame final : public QWidget {
@@ -53,7 +53,8 @@ class Builder {
     layout->setSizeConstraint(QLayout::SetMinimumSize);
     Add(layout, dialogTemplate.content, dialog_);
     // The buttons at the bottom stand off from what the dialog is about.
-    layout->itemAt(0)->layout()->setSpacing(kBottomLineGap);
+    auto* content = static_cast<QBoxLayout*>(layout->itemAt(0)->layout());
+    content->insertSpacing(content->count() - 1, kBottomLineGap);
     NameLabelsAndGroups();
     SetTabOrder();
     return std::move(set_);

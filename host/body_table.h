@@ -25,7 +25,7 @@ inline constexpr std::array<BodyRow, kBodyCount> kBodies{{
   {Body::Moon,    u"Solar.Moon",           u"月",     u"Moon",    0xFFD8D4C8},
   {Body::Mercury, u"Solar.Planet.Mercury", u"水星",   u"Mercury", 0xFFD0C4B4},
   {Body::Venus,   u"Solar.Planet.Venus",   u"金星",   u"Venus",   0xFFFFF4D0},
-  {Body::Earth,   u"Solar.Planet.Earth",   u"地球",   u"Earth",   0xFF7FB4FF},
+  {Body::Earth,   u"Solar.Planet.Earth",   u"地球",   u"Earth",   0xFF4F86D8},
   {Body::Mars,    u"Solar.Planet.Mars",    u"火星",   u"Mars",    0xFFFF9A6B},
   {Body::Jupiter, u"Solar.Planet.Jupiter", u"木星",   u"Jupiter", 0xFFFFDDB0},
   {Body::Saturn,  u"Solar.Planet.Saturn",  u"土星",   u"Saturn",  0xFFF2DE9C},

@@ -82,6 +82,11 @@ void AddVisibleCircle(const Disk& disk, std::span<const Vector3> places, QPainte
   }
 }
 
+/// Dark on light disks, light on dark ones.
+QColor GridColor(const QColor& surface) {
+  return surface.lightness() > 150 ? QColor(50, 110, 220, 190) : QColor(190, 220, 255, 150);
+}
+
 double GridStepDeg(double radius) {
   if (radius < 25.0) return 45.0;
   return radius < 80.0 ? 30.0 : radius < 400.0 ? 15.0 : 10.0;
@@ -207,7 +212,7 @@ void PaintGrid(QPainter& painter, const Disk& disk) {
                      &path);
   }
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(QColor(70, 150, 255, 190), 1.0));
+  painter.setPen(QPen(GridColor(disk.color), 1.0));
   painter.drawPath(path);
 }
 

@@ -39,7 +39,7 @@ QString DistanceText(double distanceAu) {
   const double number = distanceAu / unit;
   if (unit > 1.0) return u"%1光年"_s.arg(number, 0, 'g', 3);
   if (number >= 1e4)
-    return u"%1万 %2"_s.arg(number / 1e4, 0, 'g', 4).arg(unit < 1.0 ? u"km"_s : u"au"_s);
+    return u"%1万 %2"_s.arg(number / 1e4, 0, 'g', 3).arg(unit < 1.0 ? u"km"_s : u"au"_s);
   return u"%1 %2"_s.arg(number, 0, 'g', 4).arg(unit < 1.0 ? u"km"_s : u"au"_s);
 }
 

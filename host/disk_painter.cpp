@@ -15,8 +15,8 @@
 namespace vyn {
 namespace {
 
-const QColor kPlainColor(92, 94, 102, 78);
-constexpr double kSmallestMoonWithCraters = 60.0;
+const QColor kPlainColor(92, 94, 102, 96);
+constexpr double kSmallestDetailedMoon = 60.0;
 const QColor kNightColor(6, 8, 16, 215);
 
 Matrix3 DiskFrame(const Vector3& lineOfSight, const PictureAxes& axes) {
@@ -67,6 +67,13 @@ void PaintCraters(QPainter& painter, const Disk& disk) {
         VisibleSpot(disk, {feature.longitudeDeg, feature.latitudeDeg, radiusDeg}, 1.0));
   }
   painter.setPen(Qt::NoPen);
+}
+
+/// What can be seen on a large disk only: the plains' soft edges and the craters.
+void PaintDetails(QPainter& painter, const Disk& disk) {
+  painter.drawPath(Plains(disk, 1.14));
+  painter.drawPath(Plains(disk, 0.95));
+  PaintCraters(painter, disk);
 }
 
 /// A circle of the body as a line, its far side left out.
@@ -163,11 +170,8 @@ void PaintMoonSurface(QPainter& painter, const Disk& disk) {
   painter.setBrush(disk.color);
   painter.drawEllipse(disk.center, disk.radius, disk.radius);
   painter.setBrush(kPlainColor);
-  // One over the other makes soft edges.
-  for (const double enlargement : {1.14, 1.05, 0.95}) {
-    painter.drawPath(Plains(disk, enlargement));
-  }
-  if (disk.radius > kSmallestMoonWithCraters) PaintCraters(painter, disk);
+  painter.drawPath(Plains(disk, 1.05));
+  if (disk.radius > kSmallestDetailedMoon) PaintDetails(painter, disk);
   QPainterPath limb;
   limb.addEllipse(disk.center, disk.radius + 0.5, disk.radius + 0.5);
   painter.setBrush(kNightColor);

@@ -77,7 +77,7 @@ BodyDisplay ReadBody(ReferenceEngine& engine, const BodyRow& body, const LabelSt
     display.*row.value = engine.IsOn(QString(path + row.word));
   }
   display.minimumSizePixels = engine.Number(QString(path + u".Disk.MinimumSize"));
-  if (IsPlanet(body.body)) display.multiplier = engine.Number(u"Solar.Planet.Disk.Multiplier", 1.0);
+  display.multiplier = engine.Number(QString(path + u".Disk.Multiplier"), 1.0);
   display.nameStyle = ReadStyle(engine, path + u".Name", fallback);
   return display;
 }

@@ -10,6 +10,7 @@
 #include "host/sky_painter.h"
 #include "host/solar_canvas.h"
 #include "host/solar_painter.h"
+#include "host/vector_registers.h"
 #include "siblings/astro/calendar.h"
 
 namespace vyn {
@@ -86,6 +87,7 @@ void PaintFrame(QPainter& painter, const Frame& frame) {
     PaintSky(painter, frame);
   }
   PaintStatus(painter, frame);
+  ClearVectorRegisters();
 }
 
 QRectF StatusArea(const QSizeF& pictureSize) {

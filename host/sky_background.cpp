@@ -7,6 +7,7 @@
 
 #include "host/line_builder.h"
 #include "host/sky_canvas.h"
+#include "host/vector_registers.h"
 #include "host/zodiacal_glow.h"
 #include "siblings/astro/angles.h"
 
@@ -236,6 +237,7 @@ void PaintSkyBackground(SkyCanvas& canvas) {
   gradient.setColorAt(0.0, colors.zenith);
   gradient.setColorAt(1.0, colors.horizon);
   canvas.painter.fillRect(QRectF(QPointF(), canvas.frame.size), gradient);
+  ClearVectorRegisters();
   PaintDustLight(canvas);
 }
 

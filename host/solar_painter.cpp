@@ -4,12 +4,14 @@
 #include "host/solar_canvas.h"
 #include "host/solar_lines.h"
 #include "host/solar_regions.h"
+#include "host/vector_registers.h"
 
 namespace vyn {
 
 void PaintSolarSystem(QPainter& painter, const Frame& frame) {
   SolarCanvas canvas(painter, frame);
   painter.fillRect(QRectF(QPointF(), frame.size), QColor(4, 6, 14));
+  ClearVectorRegisters();
   PaintEclipticGrid(canvas);
   PaintSolarRegions(canvas);
   PaintCosmicScale(canvas);

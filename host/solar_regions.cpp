@@ -81,14 +81,21 @@ std::vector<Vector3> OortPoints() {
   return points;
 }
 
+/// Small squares: round points would cost more than all the rest of the picture.
 void PaintPoints(SolarCanvas& canvas, const std::vector<Vector3>& places, const QColor& color) {
-  QPolygonF points;
+  constexpr double kSize = 1.6;
+  QList<QRectF> squares;
+  squares.reserve(static_cast<qsizetype>(places.size()));
   for (const Vector3& place : places) {
     const auto at = canvas.camera.ToPicture(place);
-    if (at && canvas.IsInPicture(*at, 2.0)) points << *at;
+    if (at && canvas.IsInPicture(*at, 2.0)) squares.emplace_back(at->x(), at->y(), kSize, kSize);
   }
-  canvas.painter.setPen(QPen(color, 1.6, Qt::SolidLine, Qt::RoundCap));
-  canvas.painter.drawPoints(points);
+  canvas.painter.save();
+  canvas.painter.setRenderHint(QPainter::Antialiasing, false);
+  canvas.painter.setPen(Qt::NoPen);
+  canvas.painter.setBrush(color);
+  canvas.painter.drawRects(squares);
+  canvas.painter.restore();
 }
 
 std::vector<Vector3> RingEdge(double radiusAu) {

@@ -81,7 +81,7 @@ double Interpolate(const Values& table, const AxisPlace& row, const AxisPlace& c
   return along(row.index) + (along(row.index + 1) - along(row.index)) * row.part;
 }
 
-constexpr int kPixelsPerCell = 8;
+constexpr int kPixelsPerCell = 12;
 
 /// Brightness to opacity: the counterglow is to be seen, and the brightest part not to glare.
 int AlphaOf(double brightness) {

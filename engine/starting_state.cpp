@@ -3,6 +3,8 @@
 #include <array>
 #include <span>
 
+#include "engine/sky/satellite_table.h"
+
 namespace vyn {
 namespace {
 
@@ -17,14 +19,6 @@ struct Body {
   QStringView path;
   QStringView japaneseName;
   QStringView englishName;
-};
-
-struct Satellite {
-  QStringView bodyPath;
-  int number;
-  QStringView japaneseName;
-  QStringView englishName;
-  QStringView numeral;
 };
 
 // clang-format off
@@ -48,34 +42,6 @@ constexpr std::array<Body, 5> kDwarfPlanets{{
   {u"Solar.DwarfPlanet.Haumea",   u"ハウメア", u"Haumea"},
   {u"Solar.DwarfPlanet.Makemake", u"マケマケ", u"Makemake"},
   {u"Solar.DwarfPlanet.Eris",     u"エリス",   u"Eris"},
-}};
-
-/// The larger satellites. Planets that are not named here have none.
-constexpr std::array<Satellite, 24> kSatellites{{
-  {u"Solar.Planet.Earth",      1, u"月",           u"Moon",      u"I"},
-  {u"Solar.Planet.Mars",       1, u"フォボス",     u"Phobos",    u"I"},
-  {u"Solar.Planet.Mars",       2, u"ダイモス",     u"Deimos",    u"II"},
-  {u"Solar.Planet.Jupiter",    1, u"イオ",         u"Io",        u"I"},
-  {u"Solar.Planet.Jupiter",    2, u"エウロパ",     u"Europa",    u"II"},
-  {u"Solar.Planet.Jupiter",    3, u"ガニメデ",     u"Ganymede",  u"III"},
-  {u"Solar.Planet.Jupiter",    4, u"カリスト",     u"Callisto",  u"IV"},
-  {u"Solar.Planet.Jupiter",    5, u"アマルテア",   u"Amalthea",  u"V"},
-  {u"Solar.Planet.Saturn",     1, u"ミマス",       u"Mimas",     u"I"},
-  {u"Solar.Planet.Saturn",     2, u"エンケラドス", u"Enceladus", u"II"},
-  {u"Solar.Planet.Saturn",     3, u"テチス",       u"Tethys",    u"III"},
-  {u"Solar.Planet.Saturn",     4, u"ディオネ",     u"Dione",     u"IV"},
-  {u"Solar.Planet.Saturn",     5, u"レア",         u"Rhea",      u"V"},
-  {u"Solar.Planet.Saturn",     6, u"タイタン",     u"Titan",     u"VI"},
-  {u"Solar.Planet.Saturn",     7, u"ハイペリオン", u"Hyperion",  u"VII"},
-  {u"Solar.Planet.Saturn",     8, u"イアペタス",   u"Iapetus",   u"VIII"},
-  {u"Solar.Planet.Uranus",     1, u"アリエル",     u"Ariel",     u"I"},
-  {u"Solar.Planet.Uranus",     2, u"ウンブリエル", u"Umbriel",   u"II"},
-  {u"Solar.Planet.Uranus",     3, u"タイタニア",   u"Titania",   u"III"},
-  {u"Solar.Planet.Uranus",     4, u"オベロン",     u"Oberon",    u"IV"},
-  {u"Solar.Planet.Uranus",     5, u"ミランダ",     u"Miranda",   u"V"},
-  {u"Solar.Planet.Neptune",    1, u"トリトン",     u"Triton",    u"I"},
-  {u"Solar.Planet.Neptune",    2, u"ネレイド",     u"Nereid",    u"II"},
-  {u"Solar.DwarfPlanet.Pluto", 1, u"カロン",       u"Charon",    u"I"},
 }};
 
 constexpr Row kSingle[]{
@@ -126,7 +92,6 @@ constexpr Row kSingle[]{
   {u"Solar.Planet.Name.Font",                         u"IPAGothic,10"},
   {u"Solar.Planet.Satellite.Name.Color",              u"#c0c0c0"},
   {u"Solar.Planet.Satellite.Name.Font",               u"IPAGothic,9"},
-  {u"Solar.Planet.Satellite.Count",                   u"24"},
   {u"Solar.DwarfPlanet.Name.Color",                   u"#d0b0ff"},
   {u"Solar.DwarfPlanet.Name.Font",                    u"IPAGothic,10"},
 
@@ -236,25 +201,53 @@ void TakePlanet(const Body& body, const Take& take) {
   TakeRows(body.path, kOfPlanets, take);
 }
 
-QString SatellitesOf(QStringView bodyPath) { return bodyPath + u".Satellite"_s; }
-
-int SatelliteCount(QStringView bodyPath) {
-  int count = 0;
-  for (const Satellite& satellite : kSatellites) count += satellite.bodyPath == bodyPath ? 1 : 0;
-  return count;
+QString PathOf(Primary primary) {
+  switch (primary) {
+    case Primary::Pluto:
+      return u"Solar.DwarfPlanet.Pluto"_s;
+    case Primary::Eris:
+      return u"Solar.DwarfPlanet.Eris"_s;
+    case Primary::Ceres:
+      return u"Solar.DwarfPlanet.Ceres"_s;
+    case Primary::Makemake:
+      return u"Solar.DwarfPlanet.Makemake"_s;
+    case Primary::Haumea:
+      return u"Solar.DwarfPlanet.Haumea"_s;
+    default:
+      return BodyPath(static_cast<int>(kFirstPlanet) + static_cast<int>(primary));
+  }
 }
 
-void TakeSatelliteCount(QStringView bodyPath, const Take& take) {
-  take(SatellitesOf(bodyPath) + u".Count"_s, QString::number(SatelliteCount(bodyPath)));
-}
-
-void TakeSatellite(const Satellite& satellite, const Take& take) {
-  const QString path =
-      SatellitesOf(satellite.bodyPath) + u".No"_s + QString::number(satellite.number);
+void TakeSatellite(const QString& path, const Satellite& satellite, const QString& numeral,
+                   const Take& take) {
+  const QString englishName = QString::fromUtf8(satellite.name);
+  const QStringView japaneseName = satellite.japaneseName;
+  const QStringView name = japaneseName.isEmpty() ? QStringView(englishName) : japaneseName;
   TakeRows(path, kOfSatellites, take);
-  TakeNames({path, satellite.japaneseName, satellite.englishName}, take);
-  take(path + u".Name"_s, satellite.japaneseName);
-  take(path + u".Number"_s, satellite.numeral);
+  TakeNames({path, name, englishName}, take);
+  take(path + u".Name", name);
+  take(path + u".Number", numeral);
+}
+
+void TakeSatellites(Primary primary, const Take& take) {
+  const QString path = PathOf(primary) + u".Satellite";
+  int number = 0;
+  for (const Satellite& satellite : SatellitesOf(primary)) {
+    ++number;
+    TakeSatellite(path + u".No" + QString::number(number), satellite,
+                  QString::fromStdString(SatelliteNumeral(primary, number)), take);
+  }
+}
+
+/// Of every body, also of those that have none, and of all together.
+void TakeSatelliteCounts(const Take& take) {
+  qsizetype total = 0;
+  for (const Primary primary : kPrimaries) {
+    const auto count = static_cast<qsizetype>(SatellitesOf(primary).size());
+    take(PathOf(primary) + u".Satellite.Count", QString::number(count));
+    total += count;
+  }
+  take(u"Solar.Planet.Satellite.Count"_s, QString::number(total));
 }
 
 }  // namespace
@@ -265,15 +258,14 @@ QString BodyPath(int bodyNumber) {
 }
 
 void ForEachStartingValue(const Take& take) {
-  for (const Satellite& satellite : kSatellites) TakeSatellite(satellite, take);
+  for (const Primary primary : kPrimaries) TakeSatellites(primary, take);
   for (std::size_t i = 0; i < kFirstPlanet; ++i) {
     TakeNames(kNumberedBodies[i], take);
     TakeRows(kNumberedBodies[i].path, kOfSunAndMoon, take);
   }
   for (const Body& body : std::span(kNumberedBodies).subspan(kFirstPlanet)) TakePlanet(body, take);
   for (const Body& body : kDwarfPlanets) TakePlanet(body, take);
-  for (const Body& body : kNumberedBodies) TakeSatelliteCount(body.path, take);
-  for (const Body& body : kDwarfPlanets) TakeSatelliteCount(body.path, take);
+  TakeSatelliteCounts(take);
   for (const auto path : {u"Solar.Planet", u"Solar.DwarfPlanet"}) {
     TakeRows(path, kOfPlanetClasses, take);
   }

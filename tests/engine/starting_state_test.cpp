@@ -58,6 +58,25 @@ TEST_F(StartingState, CountsAgreeWithTheSatellitesThatAnswer) {
   EXPECT_EQ(Ask(u"solar.planet.satellite.count"_s).toInt(), total);
 }
 
+TEST_F(StartingState, SatellitesHaveTheirNamesAndNumbers) {
+  const auto called = [this](const QString& satellite) {
+    const QString path = u"solar."_s + satellite;
+    return QStringList{Ask(path + u".name"), Ask(path + u".englishname"), Ask(path + u".number")};
+  };
+  using Words = QStringList;
+  EXPECT_EQ(called(u"moon"_s), (Words{u"月"_s, u"Moon"_s, u"I"_s}));
+  EXPECT_EQ(called(u"planet.jupiter.Satellite.no5"_s),
+            (Words{u"アマルテア"_s, u"Amalthea"_s, u"V"_s}));
+  EXPECT_EQ(called(u"planet.saturn.Satellite.no8"_s),
+            (Words{u"イアペタス"_s, u"Iapetus"_s, u"VIII"_s}));
+  EXPECT_EQ(called(u"dwarfplanet.pluto.Satellite.no1"_s),
+            (Words{u"カロン"_s, u"Charon"_s, u"I"_s}));
+  EXPECT_EQ(called(u"planet.saturn.Satellite.no55"_s),
+            (Words{u"Angrboda"_s, u"Angrboda"_s, u"LV"_s}));
+  EXPECT_EQ(called(u"planet.jupiter.Satellite.no73"_s),
+            (Words{u"S/2003 J 2"_s, u"S/2003 J 2"_s, u""_s}));
+}
+
 TEST_F(StartingState, IsTheSameOnEveryCallAndAfterInit) {
   const QString state = Ask(u"Status"_s);
   engine_.Doit(

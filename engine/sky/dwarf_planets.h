@@ -4,8 +4,8 @@
 // osculate at 2026 June 9.0 TDB (JD 2461200.5), Jet Propulsion Laboratory's Small-Body Database;
 // Pluto from the mean elements of Standish, "Keplerian elements for approximate positions of the
 // major planets" (JPL), made for the years 1800 to 2050.
-// How far off: Ceres 0.05 degrees within ten years of 2026, some degrees fifty years away, Pluto
-// 0.02 degrees in its years, the others 0.1 degrees within fifty years.
+// How far off: Ceres 0.01 degrees a year from that date, 1 degree eight years and 4 degrees sixty
+// years away; Pluto 0.02 degrees in its years; the others 0.02 degrees six years away.
 #pragma once
 
 #include <array>

@@ -4,9 +4,9 @@
 // of J2000, at Julian dates in terrestrial time when the light leaves. Sources and how far each is
 // off along its orbit:
 //   Moon                       ERFA's eraMoon98; 10"
-//   Phobos, Deimos             Sinclair 1989, A&A 220, 321; below 0.1 degrees
+//   Phobos, Deimos             Sinclair 1989, A&A 220, 321; some 0.1 degrees
 //   Io to Callisto             Lieske's theory E5 with its large terms, from Meeus, "Astronomical
-//                              Algorithms" (2nd ed.), chapter 44; 0.03 degrees
+//                              Algorithms" (2nd ed.), chapter 44; 0.05 degrees
 //   Mimas to Iapetus           Dourneau's theory, from Meeus, chapter 46; some 0.01 degrees
 //   the five large of Uranus, Triton, Charon and the inner ones
 //                              mean elements (satellite_table.h); 0.5 degrees, and some degrees

@@ -84,11 +84,6 @@ BodyDisplay ReadBody(ReferenceEngine& engine, const BodyRow& body, const LabelSt
 
 }  // namespace
 
-NameLanguage BodyDisplay::Language() const {
-  if (japaneseName) return NameLanguage::Japanese;
-  return englishName ? NameLanguage::English : NameLanguage::None;
-}
-
 /// The dialog of the Sun and the Moon has one colour for both names, so the Moon's falls back to
 /// the Sun's.
 DisplayState ReadDisplayState(ReferenceEngine& engine) {

@@ -21,8 +21,6 @@ struct LabelStyle {
   QFont font;
 };
 
-enum class NameLanguage { None, Japanese, English };
-
 /// How the Sun, the Moon or a planet is drawn. Switches that a body does not have stay off.
 struct BodyDisplay {
   bool isVisible = false;
@@ -44,8 +42,6 @@ struct BodyDisplay {
   double minimumSizePixels = 0.0;
   double multiplier = 1.0;  ///< of the disk's size
   LabelStyle nameStyle;
-
-  NameLanguage Language() const;
 };
 
 struct DisplayState {

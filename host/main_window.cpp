@@ -46,7 +46,8 @@ QString MainWindow::Send(const QString& command) { return watched_.Doit(command)
 /// After Cancel a dialog asks for no redraw, so the window does.
 CVynDialog* MainWindow::OpenDialog(const DialogEntry& entry) {
   QPointer<CVynDialog>& dialog = dialogs_[entry.templateNumber];
-  if (dialog != nullptr) {
+  // One that is closing is deleted a moment later.
+  if (dialog != nullptr && dialog->isVisible()) {
     dialog->raise();
     dialog->activateWindow();
     return dialog;

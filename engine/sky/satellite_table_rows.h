@@ -1,4 +1,4 @@
-// The rows of the satellite table; for satellite_table.cpp alone.
+// The rows of the satellite table; for the satellite_table files alone.
 #pragma once
 
 #include <limits>

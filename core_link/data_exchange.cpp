@@ -1,5 +1,6 @@
 #include "core_link/data_exchange.h"
 
+#include "core_link/number_text.h"
 #include "core_link/reply.h"
 #include "siblings/controls/controls.h"
 #include "siblings/controls/template_builder.h"
@@ -50,6 +51,12 @@ void CDataExchange::Int(int id, int& value) {
   QString text = QString::number(value);
   Text(id, text);
   if (saving_) value = reply::ToInt(text);
+}
+
+void CDataExchange::DDX_Double(int id, double& value, int maxChars) {
+  QString text = ShortNumberText(value, maxChars);
+  Text(id, text);
+  if (saving_) value = reply::ToDouble(text);
 }
 
 }  // namespace vyn

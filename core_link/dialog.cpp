@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -120,8 +121,10 @@ void CVynDialog::OnOK() { Close(QDialog::Accepted); }
 void CVynDialog::OnCancel() { Close(QDialog::Rejected); }
 void CVynDialog::OnHelp() { Q_EMIT helpRequested(templateNumber_); }
 
+void CVynDialog::OnDestroy() { SavePlacement(); }
+
 void CVynDialog::Close(int result) {
-  SavePlacement();
+  OnDestroy();
   done(result);
 }
 
@@ -160,6 +163,20 @@ void CVynDialog::Enable(std::initializer_list<int> ids, bool on) {
 bool CVynDialog::IsChecked(int id) const {
   const auto* button = qobject_cast<QAbstractButton*>(GetDlgItem(id));
   return button != nullptr && button->isChecked();
+}
+
+QString CVynDialog::EditText(int id) const {
+  const auto* edit = qobject_cast<QLineEdit*>(GetDlgItem(id));
+  return edit != nullptr ? edit->text() : QString();
+}
+
+void CVynDialog::OnSpin(int id, std::function<void(int)> handler) {
+  connect(static_cast<CVynSpinButton*>(GetDlgItem(id)), &CVynSpinButton::deltaPressed, this,
+          [handler = std::move(handler)](int delta) { handler(delta); });
+}
+
+void CVynDialog::ShowInformation(const QString& text) {
+  QMessageBox(QMessageBox::Information, windowTitle(), text, QMessageBox::Ok, this).exec();
 }
 
 bool CVynDialog::HasCorVyn() const {

@@ -2,6 +2,7 @@
 // with its controls.
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <memory>
 
@@ -63,6 +64,8 @@ class VYN_EXPORT CVynDialog : public QDialog, public CVynDialogBase {
   virtual void OnOK();
   virtual void OnCancel();
   virtual void OnHelp();
+  /// The dialog closes, by whatever way; its controls are still there.
+  virtual void OnDestroy();
 
   /// Shows the members in the controls (false) or reads the controls into them (true). No handler
   /// of a change runs meanwhile.
@@ -73,6 +76,7 @@ class VYN_EXPORT CVynDialog : public QDialog, public CVynDialogBase {
   void Enable(int id, bool on);
   void Enable(std::initializer_list<int> ids, bool on);
   bool IsChecked(int id) const;
+  QString EditText(int id) const;
 
   /// Calls `handler` of the derived class when one of the buttons is clicked.
   template <class Dialog>
@@ -82,6 +86,9 @@ class VYN_EXPORT CVynDialog : public QDialog, public CVynDialogBase {
               [this, handler] { (static_cast<Dialog*>(this)->*handler)(); });
     }
   }
+
+  /// Calls `handler` with the delta of each press of a spin button: -1 is up.
+  void OnSpin(int id, std::function<void(int delta)> handler);
 
   /// The colour-and-font button, grey in every dialog.
   template <class Dialog>
@@ -101,6 +108,9 @@ class VYN_EXPORT CVynDialog : public QDialog, public CVynDialogBase {
               });
     }
   }
+
+  /// Shows a message under the dialog's title with the information icon.
+  void ShowInformation(const QString& text);
 
   // The core engine.
 

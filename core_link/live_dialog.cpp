@@ -27,6 +27,7 @@ bool CVynLiveDialog::OnInitDialog() {
   CVynDialog::OnInitDialog();
   Init();
   UpdateControls();
+  undoScript_.clear();
   GetScript(undoScript_);
   return true;
 }
@@ -42,6 +43,7 @@ void CVynLiveDialog::DoDataExchange(CDataExchange& exchange) {
 }
 
 int CVynLiveDialog::GetScript(QString& out) {
+  if (!CheckTypedValues()) return 0;
   UpdateData(true);
   out.clear();
   WriteScript(out);

@@ -19,8 +19,8 @@ class VYN_EXPORT CVynLiveDialog : public CVynDialog {
 
   /// Reads the controls and writes into `out` the complete state: one assignment for each governed
   /// property in the dialog's fixed order, each ending in ";", nothing between them. Returns 1;
-  /// or 0, with `out` empty, after a typed value was refused with a message.
-  virtual int GetScript(QString& out);
+  /// or 0, with `out` as it was, after a typed value was refused with a message.
+  int GetScript(QString& out);
   /// Sends the state script and redraws; nothing when a typed value was refused.
   void Apply();
   /// Puts back the state of the opening, without a redraw.
@@ -40,7 +40,9 @@ class VYN_EXPORT CVynLiveDialog : public CVynDialog {
   /// Enables and disables controls for the state shown; also adjusts to the observer at opening.
   virtual void UpdateControls() {}
   /// Appends the statements of the control values to `out`.
-  virtual void WriteScript(QString& out) const = 0;
+  virtual void WriteScript(QString& out) = 0;
+  /// Checks what was typed before anything is read; shows a message and returns false to refuse.
+  virtual bool CheckTypedValues() { return true; }
 
   /// Keeps the body on which the observer stands visible: "PATH.Visible = TRUE;".
   QString ObserverBodyStatement(int bodyNumber) const;

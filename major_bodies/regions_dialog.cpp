@@ -22,7 +22,7 @@ void CDlgRegions::Init() {
   UpdateData(false);
 }
 
-void CDlgRegions::WriteScript(QString& out) const {
+void CDlgRegions::WriteScript(QString& out) {
   for (const RegionSwitch& region : regions_) {
     out += statement::Visible(region.path, IsOn(region.control));
   }

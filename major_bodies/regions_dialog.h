@@ -27,7 +27,7 @@ class VYN_EXPORT CDlgRegions : public CVynLiveDialog {
 
   void AttachControls() override;
   void Init() override;
-  void WriteScript(QString& out) const override;
+  void WriteScript(QString& out) override;
   virtual void OnApply() { Apply(); }
 
  private:

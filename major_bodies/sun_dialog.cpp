@@ -194,7 +194,7 @@ void CDlgSun::EnableDisableMoon(int shown) {
   Enable(1028, shown && IsChecked(kMoonPlaceNames));
 }
 
-void CDlgSun::WriteScript(QString& out) const {
+void CDlgSun::WriteScript(QString& out) {
   for (const SunStatement& row : kStatements) {
     const bool on = IsOn(row.control);
     switch (row.kind) {

@@ -17,7 +17,7 @@ class VYN_EXPORT CDlgSun final : public CVynLiveDialog {
   void AttachControls() override;
   void Init() override;
   void UpdateControls() override;
-  void WriteScript(QString& out) const override;
+  void WriteScript(QString& out) override;
 
   /// Sends a command unchanged; whether the reply is "TRUE" in any casing.
   bool CorVynBool(const QString& command);

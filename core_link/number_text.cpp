@@ -1,0 +1,18 @@
+#include "core_link/number_text.h"
+
+namespace vyn {
+
+QString ShortNumberText(double value, int maxChars) {
+  QString text;
+  for (int decimals = 2; decimals >= 0; --decimals) {
+    text = QString::number(value, 'f', decimals);
+    while (text.contains(QLatin1Char('.')) &&
+           (text.endsWith(QLatin1Char('0')) || text.endsWith(QLatin1Char('.')))) {
+      text.chop(1);
+    }
+    if (text.size() <= maxChars) break;
+  }
+  return text;
+}
+
+}  // namespace vyn

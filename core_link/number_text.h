@@ -1,0 +1,12 @@
+// Numbers as edits show them, independent of the locale.
+#pragma once
+
+#include <QString>
+
+namespace vyn {
+
+/// The shortest text that keeps the value's hundredths, without needless zeros: "1", "0.5", "0.01".
+/// Decimals are given up where the text would be longer than `maxChars`.
+QString ShortNumberText(double value, int maxChars);
+
+}  // namespace vyn

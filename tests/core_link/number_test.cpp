@@ -1,0 +1,40 @@
+// Numbers in edits and the steps of the vectors' spin buttons.
+#include <gtest/gtest.h>
+
+#include "core_link/number_text.h"
+#include "core_link/vector_step.h"
+
+namespace vyn {
+namespace {
+
+TEST(NumberText, KeepsHundredthsWithinItsLength) {
+  const struct {
+    double value;
+    const char* text;
+  } cases[] = {
+      {1.0, "1"},     {0.5, "0.5"}, {0.01, "0.01"}, {12.25, "12.3"}, {99.99, "100"},
+      {100.0, "100"}, {0.0, "0"},   {10.0, "10"},   {0.999, "1"},    {-1.25, "-1.3"},
+  };
+  for (const auto& [value, text] : cases) {
+    EXPECT_EQ(ShortNumberText(value, 4).toStdString(), text) << value;
+  }
+}
+
+TEST(VectorStep, IsCoarserAboveOneTenthAndOne) {
+  constexpr int kUp = -1, kDown = 1;
+  const struct {
+    double from;
+    int delta;
+    double to;
+  } cases[] = {
+      {0.09, kUp, 0.1},      {0.1, kUp, 0.2},   {1.0, kUp, 2.0},    {100.0, kUp, 100.0},
+      {1.0, kDown, 0.9},     {1.5, kDown, 0.5}, {0.1, kDown, 0.09}, {0.01, kDown, 0.01},
+      {500.0, kDown, 100.0}, {2.0, 0, 1.0},
+  };
+  for (const auto& [from, delta, to] : cases) {
+    EXPECT_NEAR(StepVectorValue(from, delta), to, 1e-12) << from << " by " << delta;
+  }
+}
+
+}  // namespace
+}  // namespace vyn

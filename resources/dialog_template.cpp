@@ -8,7 +8,7 @@ namespace {
 bool IsArrangement(ControlKind kind) { return kind >= ControlKind::Column; }
 
 void Collect(const TemplateItem& item, std::vector<const TemplateItem*>& controls) {
-  if (!IsArrangement(item.kind)) controls.push_back(&item);
+  if (!IsArrangement(item.kind) && item.id != kNoControlId) controls.push_back(&item);
   for (const TemplateItem& child : item.children) Collect(child, controls);
 }
 
@@ -45,8 +45,19 @@ TemplateItem spin(int id) { return control(ControlKind::Spin, id); }
 TemplateItem stretch() { return TemplateItem{ControlKind::Stretch}; }
 
 TemplateItem edit(int id, int widthChars) {
-  TemplateItem item = control(ControlKind::Edit, id);
+  return wide(control(ControlKind::Edit, id), widthChars);
+}
+
+TemplateItem scrollBarSpace() { return TemplateItem{ControlKind::ScrollBarSpace}; }
+TemplateItem note(const char16_t* text) { return label(kNoControlId, text); }
+
+TemplateItem wide(TemplateItem item, int widthChars) {
   item.widthChars = widthChars;
+  return item;
+}
+
+TemplateItem tight(TemplateItem item) {
+  item.tight = true;
   return item;
 }
 
@@ -62,6 +73,16 @@ TemplateItem hidden(TemplateItem item) {
 
 TemplateItem readOnly(TemplateItem item) {
   item.readOnly = true;
+  return item;
+}
+
+TemplateItem compact(TemplateItem item) {
+  item.compact = true;
+  return item;
+}
+
+TemplateItem titled(TemplateItem item) {
+  item.titled = true;
   return item;
 }
 

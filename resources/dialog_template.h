@@ -29,7 +29,11 @@ enum class ControlKind {
   Row,
   Grid,
   Stretch,
+  ScrollBarSpace,
 };
+
+/// The number of a text that no one asks for.
+inline constexpr int kNoControlId = -1;
 
 /// One control or arrangement of a dialog template. Radio buttons that follow one another, with no
 /// other control between, form one group, named by its first button. A static is the label, with
@@ -43,6 +47,10 @@ struct TemplateItem {
   bool indented = false;  ///< moved right by the width of a check mark
   bool hidden = false;
   bool readOnly = false;
+  bool tight = false;      ///< an arrangement without gaps
+  bool compact = false;    ///< a button no wider than its text needs
+  bool titled = false;     ///< a group whose first child, a check box, stands in its title
+  QString accessibleName;  ///< for a control without a text or label of its own
 };
 
 struct DialogTemplate {
@@ -102,9 +110,18 @@ TemplateItem button(int id, const char16_t* text);
 TemplateItem edit(int id, int widthChars);
 TemplateItem spin(int id);
 TemplateItem stretch();
+/// As wide as a list's scroll bar, so that what stands above or below the list keeps its columns.
+TemplateItem scrollBarSpace();
+/// A text without a number.
+TemplateItem note(const char16_t* text);
+/// Fixes the width; a static's text is then centred in it.
+TemplateItem wide(TemplateItem item, int widthChars);
+TemplateItem tight(TemplateItem item);
 TemplateItem indented(TemplateItem item);
 TemplateItem hidden(TemplateItem item);
 TemplateItem readOnly(TemplateItem item);
+TemplateItem compact(TemplateItem item);
+TemplateItem titled(TemplateItem item);
 
 /// The colour-and-font button of a dialog.
 TemplateItem colorButton(int id);

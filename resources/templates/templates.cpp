@@ -2,6 +2,8 @@
 
 namespace vyn::templates {
 
-std::vector<DialogTemplate> All() { return {Sun(), Solar(), ZodiacalLight()}; }
+std::vector<DialogTemplate> All() {
+  return {Planet(), DwarfPlanet(), Satellite(), Sun(), Solar(), ZodiacalLight()};
+}
 
 }  // namespace vyn::templates

@@ -5,6 +5,9 @@
 
 namespace vyn::templates {
 
+DialogTemplate Planet();
+DialogTemplate DwarfPlanet();
+DialogTemplate Satellite();
 DialogTemplate Sun();
 DialogTemplate Solar();
 DialogTemplate ZodiacalLight();

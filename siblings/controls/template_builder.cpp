@@ -1,13 +1,16 @@
 #include "siblings/controls/template_builder.h"
 
+#include <span>
+
+#include <QApplication>
 #include <QBoxLayout>
 #include <QGridLayout>
-#include <QPointer>
 #include <QResizeEvent>
 #include <QStyle>
 #include <QStyleOptionGroupBox>
 
 #include "siblings/controls/controls.h"
+#include "siblings/controls/satellite_list_box.h"
 
 namespace vyn {
 namespace {
@@ -22,6 +25,13 @@ class GroupFrame final : public QWidget {
     box_->lower();
   }
 
+  /// Puts a check box where the title stands.
+  void SetTitleControl(QWidget* control) {
+    titleControl_ = control;
+    control->setAutoFillBackground(true);
+    control->raise();
+  }
+
   void FitContents() {
     QStyleOptionGroupBox option;
     option.initFrom(box_);
@@ -33,15 +43,19 @@ class GroupFrame final : public QWidget {
     constexpr int kPadding = 6;
     layout()->setContentsMargins(inner.left() + kPadding, inner.top() + kPadding,
                                  400 - inner.right() + kPadding, 400 - inner.bottom() + kPadding);
-    const int titleWidth = box_->minimumSizeHint().width();
-    setMinimumWidth(titleWidth);
+    const QWidget* title = titleControl_ != nullptr ? titleControl_ : box_;
+    setMinimumWidth(title->sizeHint().width() + 2 * kPadding);
   }
 
  protected:
-  void resizeEvent(QResizeEvent* event) override { box_->setGeometry(QRect({}, event->size())); }
+  void resizeEvent(QResizeEvent* event) override {
+    box_->setGeometry(QRect({}, event->size()));
+    if (titleControl_ != nullptr) titleControl_->setGeometry({{}, titleControl_->sizeHint()});
+  }
 
  private:
   CVynGroupBox* box_;
+  QWidget* titleControl_ = nullptr;
 };
 
 class Builder {
@@ -64,6 +78,8 @@ class Builder {
   void Add(QBoxLayout* layout, const TemplateItem& item, QWidget* parent) {
     if (item.kind == ControlKind::Stretch) {
       layout->addStretch();
+    } else if (item.kind == ControlKind::ScrollBarSpace) {
+      layout->addSpacing(ScrollBarWidth());
     } else if (item.indented) {
       auto* line = new QHBoxLayout;
       line->addSpacing(dialog_->style()->pixelMetric(QStyle::PM_IndicatorWidth) + 6);
@@ -84,6 +100,7 @@ class Builder {
     if (item.kind != ControlKind::Row && item.kind != ControlKind::Column) return nullptr;
     const bool isRow = item.kind == ControlKind::Row;
     auto* box = new QBoxLayout(isRow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    if (item.tight) box->setSpacing(0);
     AddChildren(box, item, parent);
     return box;
   }
@@ -99,7 +116,9 @@ class Builder {
       for (const TemplateItem& child : item.children[row].children) {
         auto* cell = new QHBoxLayout;
         Add(cell, child, parent);
-        grid->addLayout(cell, row, column++);
+        grid->addLayout(cell, row, column);
+        // The first column holds the rows' labels, the others are centred under their headings.
+        if (column++ > 0) grid->setAlignment(cell, Qt::AlignHCenter | Qt::AlignVCenter);
       }
     }
     return grid;
@@ -119,7 +138,14 @@ class Builder {
     auto* box = new CVynGroupBox(item.text);
     auto* frame = new GroupFrame(box, parent);
     Register(item, box);
-    AddChildren(new QVBoxLayout(frame), item, frame);
+    auto* layout = new QVBoxLayout(frame);
+    auto children = std::span(item.children);
+    if (item.titled) {
+      box->setTitle(QStringLiteral(" "));  // keeps the title's room
+      frame->SetTitleControl(MakeControl(children.front(), frame));
+      children = children.subspan(1);
+    }
+    for (const TemplateItem& child : children) Add(layout, child, frame);
     frame->FitContents();
     return frame;
   }
@@ -131,9 +157,9 @@ class Builder {
       case ControlKind::Radio:
         return NewRadio(item, parent);
       case ControlKind::Static:
-        return new CVynStatic(item.text, parent);
+        return NewStatic(item, parent);
       case ControlKind::Button:
-        return new CVynButton(item.text, parent);
+        return NewButton(item, parent);
       case ControlKind::Edit:
         return NewEdit(item, parent);
       case ControlKind::Spin:
@@ -141,7 +167,9 @@ class Builder {
       case ControlKind::Slider:
         return new QSlider(Qt::Horizontal, parent);
       case ControlKind::List:
-        return new CVynListBox(parent);
+        return NewList<CVynListBox>(item, parent);
+      case ControlKind::SatelliteList:
+        return NewList<CSatelliteListBox>(item, parent);
       case ControlKind::Combo:
         return new QComboBox(parent);
       case ControlKind::Progress:
@@ -155,6 +183,46 @@ class Builder {
     auto* radio = new CVynRadioButton(item.text, parent);
     radio->setAutoExclusive(false);  // its button group does that
     return radio;
+  }
+
+  static int ScrollBarWidth() {
+    const QStyle* style = QApplication::style();
+    return style->pixelMetric(QStyle::PM_ScrollBarExtent) +
+           style->pixelMetric(QStyle::PM_DefaultFrameWidth);
+  }
+
+  static int WidthOf(const QWidget* widget, int chars) {
+    return widget->fontMetrics().averageCharWidth() * chars;
+  }
+
+  static QWidget* NewStatic(const TemplateItem& item, QWidget* parent) {
+    auto* label = new CVynStatic(item.text, parent);
+    if (item.widthChars > 0) {
+      label->setFixedWidth(WidthOf(label, item.widthChars));
+      label->setAlignment(Qt::AlignCenter);
+    }
+    return label;
+  }
+
+  template <class List>
+  static QWidget* NewList(const TemplateItem& item, QWidget* parent) {
+    auto* list = new List(parent);
+    constexpr int kRows = 14;
+    list->setMinimumSize(WidthOf(list, item.widthChars),
+                         kRows * (list->fontMetrics().height() + 6));
+    return list;
+  }
+
+  static QWidget* NewButton(const TemplateItem& item, QWidget* parent) {
+    auto* button = new CVynButton(item.text, parent);
+    if (item.compact) {
+      constexpr int kButtonMargin = 8;
+      const int textWidth = button->fontMetrics().horizontalAdvance(item.text);
+      button->setFixedWidth(textWidth + 2 * kButtonMargin);
+      button->setAutoDefault(false);
+    }
+    if (item.widthChars > 0) button->setFixedWidth(WidthOf(button, item.widthChars));
+    return button;
   }
 
   QWidget* NewEdit(const TemplateItem& item, QWidget* parent) {
@@ -172,10 +240,12 @@ class Builder {
   }
 
   void Register(const TemplateItem& item, QWidget* widget) {
+    if (item.id == kNoControlId) return;
     if (item.kind != ControlKind::Radio) radioGroup_ = nullptr;
     widget->setProperty("controlId", item.id);
     widget->setProperty("controlKind", static_cast<int>(item.kind));
     widget->setVisible(!item.hidden);
+    if (!item.accessibleName.isEmpty()) widget->setAccessibleName(item.accessibleName);
     set_.byId.insert(item.id, widget);
     set_.inOrder.append(widget);
   }
@@ -192,9 +262,15 @@ class Builder {
     for (qsizetype i = 0; i < set_.inOrder.size(); ++i) {
       QWidget* next = NextFocusable(i);
       if (next == nullptr) continue;
-      if (auto* label = qobject_cast<CVynStatic*>(set_.inOrder[i])) label->setBuddy(next);
+      auto* label = qobject_cast<CVynStatic*>(set_.inOrder[i]);
+      const bool isLabel = label != nullptr && (next == set_.inOrder[i + 1] || HasMnemonic(label));
+      if (isLabel) label->setBuddy(next);
       if (auto* box = qobject_cast<CVynGroupBox*>(set_.inOrder[i])) box->SetFirstControl(next);
     }
+  }
+
+  static bool HasMnemonic(const CVynStatic* label) {
+    return label->text().contains(QLatin1Char('&'));
   }
 
   QWidget* NextFocusable(qsizetype index) const {

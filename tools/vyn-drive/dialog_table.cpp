@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "major_bodies/dwarf_planet_dialog.h"
+#include "major_bodies/planet_dialog.h"
+#include "major_bodies/satellite_dialog.h"
 #include "major_bodies/solar_dialog.h"
 #include "major_bodies/sun_dialog.h"
 #include "major_bodies/zodiacal_light_dialog.h"
@@ -28,6 +31,9 @@ struct DialogClass {
 // A new dialog takes one line here. One whose constructor takes more than the handles and the
 // parent has a function of its own instead of Make.
 constexpr std::array kClasses = {
+    DialogClass{u"CDlgDwarfPlanet", Make<CDlgDwarfPlanet>},
+    DialogClass{u"CDlgPlanet", Make<CDlgPlanet>},
+    DialogClass{u"CDlgSat", Make<CDlgSat>},
     DialogClass{u"CDlgSolar", Make<CDlgSolar>},
     DialogClass{u"CDlgSun", Make<CDlgSun>},
     DialogClass{u"CDlgZodiacalLight", Make<CDlgZodiacalLight>},

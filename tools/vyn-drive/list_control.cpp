@@ -3,7 +3,9 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 
+#include "siblings/controls/satellite_list_box.h"
 #include "tools/vyn-drive/input.h"
+#include "tools/vyn-drive/output.h"
 #include "tools/vyn-drive/script.h"
 
 namespace vyn::drive {
@@ -59,6 +61,54 @@ class ComboList final : public ListControl {
   QComboBox& combo_;
 };
 
+/// Its cells are named by the headings above them.
+class SatelliteList final : public ListControl {
+ public:
+  explicit SatelliteList(CSatelliteListBox& list) : list_(list) {}
+
+  int RowCount() const override { return list_.RowCount(); }
+  int SelectedRow() const override {
+    return list_.selectedItems().isEmpty() ? -1 : list_.currentRow();
+  }
+  QString RowText(int row) const override { return list_.RecordOfRow(row).name; }
+  void Choose(int row) override {
+    ShowRow(row);
+    const QRect area = list_.visualItemRect(list_.item(row));
+    ClickAt(*list_.viewport(), {area.left() + area.height() / 2, area.center().y()});
+  }
+  void ClickCell(int row, int column) override {
+    ShowRow(row);
+    ClickAt(*list_.viewport(), list_.ToggleRect(row, ToggleUnder(column)).center());
+  }
+  void DoubleClickCell(int row, int column) override {
+    ShowRow(row);
+    DoubleClickAt(*list_.viewport(), list_.ToggleRect(row, ToggleUnder(column)).center());
+  }
+  QStringList Cells(int row) const override {
+    const CCheckSatellite& record = list_.RecordOfRow(row);
+    QStringList cells{Quoted(record.name), Quoted(record.numberText)};
+    for (const int value :
+         {record.shown, record.nameShown, record.japanese, record.numberShown, record.orbitShown}) {
+      cells.append(QString::number(value));
+    }
+    return cells;
+  }
+
+ private:
+  void ShowRow(int row) {
+    list_.scrollToItem(list_.item(row));
+    Settle();
+  }
+
+  SatelliteToggle ToggleUnder(int headingId) const {
+    const auto toggle = list_.ToggleUnder(headingId);
+    if (!toggle) throw ScriptError{u"no such column: "_s + QString::number(headingId)};
+    return *toggle;
+  }
+
+  CSatelliteListBox& list_;
+};
+
 }  // namespace
 
 ListControl::~ListControl() = default;
@@ -72,6 +122,9 @@ QStringList ListControl::Headers() const { ThrowHasNo(u"headings"_s); }
 
 std::unique_ptr<ListControl> AsList(QWidget& control) {
   if (auto* combo = qobject_cast<QComboBox*>(&control)) return std::make_unique<ComboList>(*combo);
+  if (auto* satellites = qobject_cast<CSatelliteListBox*>(&control)) {
+    return std::make_unique<SatelliteList>(*satellites);
+  }
   if (auto* view = qobject_cast<QAbstractItemView*>(&control)) {
     return std::make_unique<ItemList>(*view);
   }

@@ -7,6 +7,10 @@
 
 #include "core_link/live_dialog.h"
 #include "engine/reference_engine.h"
+#include "engine/watched_cor_vyn.h"
+#include "major_bodies/dwarf_planet_dialog.h"
+#include "major_bodies/planet_dialog.h"
+#include "major_bodies/satellite_dialog.h"
 #include "major_bodies/sun_dialog.h"
 #include "siblings/registry/registry.h"
 
@@ -32,26 +36,64 @@ void QueryInLargeTree(benchmark::State& state) {
 }
 BENCHMARK(QueryInLargeTree);
 
-void ClickInSunDialog(benchmark::State& state) {
-  ReferenceEngine engine;
-  engine.LoadStartingState();
-  CDlgSun dialog(&engine, nullptr, nullptr);
+/// A click carried out, painting aside.
+template <class Dialog>
+void Click(benchmark::State& state, ReferenceEngine& engine, int button) {
+  Dialog dialog(&engine, nullptr, nullptr);
   dialog.Create();
-  auto* halo = static_cast<QAbstractButton*>(dialog.GetDlgItem(1011));
-  for (auto _ : state) halo->click();
+  auto* clicked = static_cast<QAbstractButton*>(dialog.GetDlgItem(button));
+  for (auto _ : state) clicked->click();
 }
-BENCHMARK(ClickInSunDialog)->Unit(benchmark::kMicrosecond);
 
-void OpenSunDialog(benchmark::State& state) {
-  ReferenceEngine engine;
-  engine.LoadStartingState();
+template <class Dialog>
+void Open(benchmark::State& state, ReferenceEngine& engine) {
+  int queries = 0;
+  WatchedCorVyn watched(engine, [&](const QString&) { ++queries; });
   for (auto _ : state) {
-    CDlgSun dialog(&engine, nullptr, nullptr);
+    Dialog dialog(&watched, nullptr, nullptr);
     dialog.Create();
     QApplication::processEvents();
   }
+  state.counters["queries"] = benchmark::Counter(queries, benchmark::Counter::kAvgIterations);
 }
-BENCHMARK(OpenSunDialog)->Unit(benchmark::kMillisecond);
+
+template <class Dialog, int kButton>
+void ClickIn(benchmark::State& state) {
+  ReferenceEngine engine;
+  engine.LoadStartingState();
+  Click<Dialog>(state, engine, kButton);
+}
+BENCHMARK(ClickIn<CDlgSun, 1011>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(ClickIn<CDlgPlanet, 1163>)->Unit(benchmark::kMicrosecond);
+
+template <class Dialog>
+void Opening(benchmark::State& state) {
+  ReferenceEngine engine;
+  engine.LoadStartingState();
+  Open<Dialog>(state, engine);
+}
+BENCHMARK(Opening<CDlgSun>)->Unit(benchmark::kMillisecond);
+BENCHMARK(Opening<CDlgPlanet>)->Unit(benchmark::kMillisecond);
+BENCHMARK(Opening<CDlgDwarfPlanet>)->Unit(benchmark::kMillisecond);
+
+void AddSatellites(ReferenceEngine& engine, int count) {
+  engine.SetProperty(QStringLiteral("solar.planet.satellite.count"), QString::number(count));
+  engine.SetProperty(QStringLiteral("solar.planet.saturn.satellite.count"), QString::number(count));
+}
+
+void ClickAmong300Satellites(benchmark::State& state) {
+  ReferenceEngine engine;
+  AddSatellites(engine, 300);
+  Click<CDlgSat>(state, engine, 1515);
+}
+BENCHMARK(ClickAmong300Satellites)->Unit(benchmark::kMicrosecond);
+
+void OpeningOf300Satellites(benchmark::State& state) {
+  ReferenceEngine engine;
+  AddSatellites(engine, 300);
+  Open<CDlgSat>(state, engine);
+}
+BENCHMARK(OpeningOf300Satellites)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace vyn

@@ -21,7 +21,7 @@ void PaintFrames(benchmark::State& state, const QString& commands) {
   engine.Doit(commands);
   QImage image(1280, 800, QImage::Format_ARGB32_Premultiplied);
   std::size_t comets = 0;
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     const vyn::Frame frame = vyn::ReadFrame(engine, image.size());
     comets = frame.scene.comets.size();
     QPainter painter(&image);
@@ -50,7 +50,7 @@ void ReadOneFrame(benchmark::State& state) {
   vyn::ReferenceEngine engine;
   engine.LoadStartingState();
   engine.LoadElements(vyn::ElementKind::Comet, QStringLiteral(VYN_DATA_DIR "/comets.eld"));
-  for (auto _ : state) benchmark::DoNotOptimize(vyn::ReadFrame(engine, {1280.0, 800.0}));
+  while (state.KeepRunning()) benchmark::DoNotOptimize(vyn::ReadFrame(engine, {1280.0, 800.0}));
 }
 
 BENCHMARK(SkyFrame)->Unit(benchmark::kMillisecond);

@@ -94,9 +94,9 @@ QColor GridColor(const QColor& surface) {
   return surface.lightness() > 150 ? QColor(50, 110, 220, 190) : QColor(190, 220, 255, 150);
 }
 
-double GridStepDeg(double radius) {
-  if (radius < 25.0) return 45.0;
-  return radius < 80.0 ? 30.0 : radius < 400.0 ? 15.0 : 10.0;
+int GridStepDeg(double radius) {
+  if (radius < 25.0) return 45;
+  return radius < 80.0 ? 30 : radius < 400.0 ? 15 : 10;
 }
 
 }  // namespace
@@ -202,13 +202,13 @@ void PaintHalo(QPainter& painter, const Disk& disk) {
 
 void PaintGrid(QPainter& painter, const Disk& disk) {
   constexpr int kPointsPerCircle = 96;
-  const double stepDeg = GridStepDeg(disk.radius);
+  const int stepDeg = GridStepDeg(disk.radius);
   QPainterPath path;
-  for (double longitude = 0.0; longitude < 180.0; longitude += stepDeg) {
+  for (int longitude = 0; longitude < 180; longitude += stepDeg) {
     AddVisibleCircle(
         disk, CirclePoints({}, AdToDc(longitude, 0.0), {0.0, 0.0, 1.0}, kPointsPerCircle), &path);
   }
-  for (double latitude = -90.0 + stepDeg; latitude < 90.0; latitude += stepDeg) {
+  for (int latitude = -90 + stepDeg; latitude < 90; latitude += stepDeg) {
     const double size = std::cos(latitude * kRadPerDeg);
     AddVisibleCircle(disk,
                      CirclePoints({0.0, 0.0, std::sin(latitude * kRadPerDeg)}, {size, 0.0, 0.0},

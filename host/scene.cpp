@@ -126,7 +126,7 @@ class CometReader {
   /// Few comets have a Japanese name; the others are called by their English one in both languages.
   QString Name(int object) const {
     const bool isJapanese = IsOn(object, u"JapaneseName.Visible");
-    const QString name = isJapanese ? table_.JapaneseName(object) : QString();
+    QString name = isJapanese ? table_.JapaneseName(object) : QString();
     if (!name.isEmpty()) return name;
     if (isJapanese || IsOn(object, u"EnglishName.Visible")) return table_.EnglishName(object);
     return IsOn(object, u"ID.Visible") ? table_.Identifier(object) : QString();

@@ -22,9 +22,9 @@ class SkyProjectionTest : public testing::TestWithParam<SkyCase> {
 };
 
 TEST_P(SkyProjectionTest, PointsComeBackFromTheirDirections) {
-  for (double x = 0.0; x <= 1200.0; x += 150.0) {
-    for (double y = 0.0; y <= 800.0; y += 100.0) {
-      const Vector3 direction = projection_.ToDirection({x, y});
+  for (int x = 0; x <= 1200; x += 150) {
+    for (int y = 0; y <= 800; y += 100) {
+      const Vector3 direction = projection_.ToDirection(QPointF(x, y));
       EXPECT_NEAR(Length(direction), 1.0, 1e-12);
       const auto back = projection_.ToPicture(5.0 * direction);
       ASSERT_TRUE(back.has_value());

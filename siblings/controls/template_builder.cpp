@@ -16,6 +16,7 @@ namespace vyn {
 namespace {
 
 constexpr int kBottomLineGap = 8;
+constexpr int kGridColumnGap = 12;
 
 /// Holds a group box and, above it and inside its frame, the controls that stand in it.
 class GroupFrame final : public QWidget {
@@ -111,6 +112,7 @@ class Builder {
 
   QGridLayout* MakeGrid(const TemplateItem& item, QWidget* parent) {
     auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(kGridColumnGap);
     for (int row = 0; row < static_cast<int>(item.children.size()); ++row) {
       int column = 0;
       for (const TemplateItem& child : item.children[row].children) {

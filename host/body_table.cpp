@@ -2,9 +2,9 @@
 
 namespace vyn {
 
-std::optional<Body> BodyOfPath(QStringView path) {
+std::optional<SkyBody> BodyOfPath(QStringView path) {
   if (path.compare(u"Solar.Planet.Earth.Satellite.Moon", Qt::CaseInsensitive) == 0) {
-    return Body::Moon;
+    return SkyBody::Moon;
   }
   for (const BodyRow& row : kBodies) {
     if (path.compare(row.path, Qt::CaseInsensitive) == 0) return row.body;

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "major_bodies/dwarf_planet_dialog.h"
+#include "major_bodies/planet_dialog.h"
+#include "major_bodies/satellite_dialog.h"
 #include "major_bodies/solar_dialog.h"
 #include "major_bodies/sun_dialog.h"
 #include "major_bodies/zodiacal_light_dialog.h"
@@ -31,6 +34,43 @@ constexpr char16_t kSunHelp[] =
 「キャンセル」は開いたときの状態に戻します。
 )";
 
+constexpr char16_t kPlanetHelp[] =
+    uR"(# 惑星
+
+惑星ごとに、名前や補助線を描くかどうかを決めます。列の下の「オン」「オフ」は全惑星をまとめて切り替えます。
+
+- **名称**、**等級表示**、**日付表示** は惑星のそばに並びます。
+- **地名** と **引出線** は地球と火星にあります。円盤を大きく映すと見えます。
+- **コンパス** は円盤の周りの東西南北、**グリッド** は惑星の経緯線です。
+- **Ｌ点** は太陽とのラグランジュ点です。
+- **空の軌道** は空の表示で、**軌道** と **軌道面** は太陽系表示で選べます。軌道面には黄道面も添えます。
+- **黄道垂線** は軌道から黄道面に下ろした線です。軌道を表示しているときに描きます。
+- **表示倍率** は円盤を1から500倍に拡大します。
+- **移動量表示** は計算期間に動く量を矢印で描きます。表示倍率は矢印の長さの倍率です。
+
+「キャンセル」は開いたときの状態に戻します。
+)";
+
+constexpr char16_t kDwarfPlanetHelp[] =
+    uR"(# 準惑星
+
+ケレス、冥王星、ハウメア、マケマケ、エリスの描き方を決めます。使い方は「惑星」と同じです。
+
+- 円盤はたいへん小さいので、コンパスとグリッドは **表示倍率** を上げて拡大すると見えます。
+- マケマケの自転軸は知られていないので、グリッドは黄道の北を軸として描きます。
+)";
+
+constexpr char16_t kSatelliteHelp[] =
+    uR"(# 衛星
+
+惑星と準惑星の衛星を一つずつ切り替えます。左の一覧で惑星を選ぶと、その衛星だけが並びます。
+
+- **表示** (V)、**名称** (N)、**日本語** (J)、**英語** (E)、**番号** (M)、**軌道** (O) はクリックか括弧内のキーで切り替えます。
+- 日本語の名前のない衛星は、英語の名前か仮符号で示します。
+- 「全衛星」のボタンは、並んでいる衛星をまとめて切り替えます。
+- 空では惑星を拡大すると見えます。小さな不規則衛星の位置は目安です。
+)";
+
 constexpr char16_t kSolarHelp[] =
     uR"(# 太陽系その他
 
@@ -54,6 +94,9 @@ constexpr char16_t kZodiacalLightHelp[] =
 // clang-format off
 constexpr DialogEntry kDialogs[] = {
   {13004, u"sun_moon",       u"太陽・月(&S)...",         &Make<CDlgSun>,           u"太陽・月の名称", u"太陽 Sun",   kSunHelp},
+  {13002, u"planets",        u"惑星(&P)...",             &Make<CDlgPlanet>,        u"惑星の名称",     u"木星 Jupiter", kPlanetHelp},
+  {13005, u"dwarf_planets",  u"準惑星(&D)...",           &Make<CDlgDwarfPlanet>,   u"準惑星の名称",   u"冥王星 Pluto", kDwarfPlanetHelp},
+  {13003, u"satellites",     u"衛星(&N)...",             &Make<CDlgSat>,           u"衛星の名称",     u"イオ Io",      kSatelliteHelp},
   {13019, u"solar_system",   u"太陽系その他(&O)...",     &Make<CDlgSolar>,         u"領域の表示",     u"メインベルト", kSolarHelp},
   {13015, u"zodiacal_light", u"黄道光・対日照(&Z)...",   &Make<CDlgZodiacalLight>, u"",               u"",             kZodiacalLightHelp},
 };

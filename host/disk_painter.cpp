@@ -59,10 +59,10 @@ void PaintCraters(QPainter& painter, const Disk& disk) {
   constexpr double kLargestCraterKm = 235.0;
   painter.setBrush(QColor(255, 252, 240, 70));
   painter.setPen(QPen(QColor(255, 252, 240, 150), 1.0));
-  for (const MoonFeature& feature : MoonFeatures()) {
+  for (const SurfacePlace& feature : MoonFeatures()) {
     if (feature.diameterKm > kLargestCraterKm) continue;
     if (!disk.AtPlace(feature.longitudeDeg, feature.latitudeDeg)) continue;
-    const double radiusDeg = feature.diameterKm / 2.0 / FactsOf(Body::Moon).radiusKm * kDegPerRad;
+    const double radiusDeg = feature.diameterKm / 2.0 / RadiusKm(SkyBody::Moon) * kDegPerRad;
     painter.drawPolygon(
         VisibleSpot(disk, {feature.longitudeDeg, feature.latitudeDeg, radiusDeg}, 1.0));
   }
@@ -111,14 +111,21 @@ std::optional<QPointF> Disk::AtPlace(double longitudeDeg, double latitudeDeg) co
   return At(direction);
 }
 
+Disk LitDisk(const Vector3& heliocentric, const Vector3& lineOfSight, const PictureAxes& axes,
+             const QColor& color) {
+  Disk disk;
+  disk.light = DiskFrame(lineOfSight, axes) * Normalized(-heliocentric);
+  disk.color = color;
+  return disk;
+}
+
 Disk DiskOf(const SceneBody& body, double jdTt, const Vector3& lineOfSight, const PictureAxes& axes,
             const Vector3& celestialPole) {
   const Matrix3 frame = DiskFrame(lineOfSight, axes);
-  Disk disk;
+  Disk disk =
+      LitDisk(body.heliocentric, lineOfSight, axes, QColor::fromRgb(RowOf(body.body).color));
   disk.fromBody = frame * Transposed(ToBodyFixed(body.body, jdTt));
-  disk.light = frame * Normalized(-body.heliocentric);
   disk.north = frame * celestialPole;
-  disk.color = QColor::fromRgb(RowOf(body.body).color);
   return disk;
 }
 
@@ -201,6 +208,8 @@ void PaintHalo(QPainter& painter, const Disk& disk) {
 }
 
 void PaintGrid(QPainter& painter, const Disk& disk) {
+  constexpr double kSmallestPixels = 4.0;
+  if (disk.radius < kSmallestPixels) return;
   constexpr int kPointsPerCircle = 96;
   const int stepDeg = GridStepDeg(disk.radius);
   QPainterPath path;

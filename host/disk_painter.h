@@ -42,6 +42,10 @@ struct Disk {
 Disk DiskOf(const SceneBody& body, double jdTt, const Vector3& lineOfSight, const PictureAxes& axes,
             const Vector3& celestialPole);
 
+/// The same of a body of which no more is known: how it turns is left out.
+Disk LitDisk(const Vector3& heliocentric, const Vector3& lineOfSight, const PictureAxes& axes,
+             const QColor& color);
+
 /// The position angle of the bright limb's middle in the picture: from up to the left, in degrees,
 /// [0, 360).
 double BrightLimbAngleDeg(const Disk& disk);
@@ -59,7 +63,7 @@ void PaintMoonSurface(QPainter& painter, const Disk& disk);
 void PaintOutline(QPainter& painter, const Disk& disk, bool hasTerminator);
 /// Light around the Sun's disk.
 void PaintHalo(QPainter& painter, const Disk& disk);
-/// Meridians and parallels of the body; as many as the disk has room for.
+/// Meridians and parallels of the body; as many as the disk has room for, on a tiny one none.
 void PaintGrid(QPainter& painter, const Disk& disk);
 /// The directions of the sky around the disk.
 void PaintCompass(QPainter& painter, const Disk& disk, LabelLayer& labels);

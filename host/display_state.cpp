@@ -22,6 +22,7 @@ constexpr BodySwitch kBodySwitches[] = {
   {u".Outline.Visible",            &BodyDisplay::outline},
   {u".JapaneseName.Visible",       &BodyDisplay::japaneseName},
   {u".EnglishName.Visible",        &BodyDisplay::englishName},
+  {u".Number.Visible",             &BodyDisplay::number},
   {u".Date.Visible",               &BodyDisplay::date},
   {u".Magnitude.Visible",          &BodyDisplay::magnitude},
   {u".Halo.Visible",               &BodyDisplay::halo},
@@ -29,6 +30,10 @@ constexpr BodySwitch kBodySwitches[] = {
   {u".Disk.Grid.Visible",          &BodyDisplay::grid},
   {u".Orbit.Visible",              &BodyDisplay::orbit},
   {u".Orbit.InTheSky.Visible",     &BodyDisplay::orbitInTheSky},
+  {u".Orbit.Perpendicular.Visible", &BodyDisplay::perpendicular},
+  {u".OrbitalPlane.Visible",       &BodyDisplay::orbitalPlane},
+  {u".EclipticPlane.Visible",      &BodyDisplay::eclipticPlane},
+  {u".Vector.Visible",             &BodyDisplay::hasVector},
   {u".LagrangianPoint.Mark.Visible", &BodyDisplay::lagrangianMarks},
   {u".Surface.Name.Visible",       &BodyDisplay::placeNames},
   {u".Surface.Name.LeadLine.Visible", &BodyDisplay::leadLines},
@@ -78,6 +83,8 @@ BodyDisplay ReadBody(ReferenceEngine& engine, const BodyRow& body, const LabelSt
   }
   display.minimumSizePixels = engine.Number(QString(path + u".Disk.MinimumSize"));
   display.multiplier = engine.Number(QString(path + u".Disk.Multiplier"), 1.0);
+  display.vectorSpanDays = engine.Number(QString(path + u".Vector.Span"), 1.0);
+  display.vectorMultiplier = engine.Number(QString(path + u".Vector.Multiplier"), 1.0);
   display.nameStyle = ReadStyle(engine, path + u".Name", fallback);
   return display;
 }
@@ -91,10 +98,15 @@ DisplayState ReadDisplayState(ReferenceEngine& engine) {
   const LabelStyle plain{QColor(), FontOf({})};
   const LabelStyle sunStyle = ReadStyle(engine, u"Solar.Sun.Name"_s, plain);
   const LabelStyle planetStyle = ReadStyle(engine, u"Solar.Planet.Name"_s, plain);
+  const LabelStyle dwarfStyle = ReadStyle(engine, u"Solar.DwarfPlanet.Name"_s, plain);
   for (const BodyRow& body : kBodies) {
-    display.bodies[IndexOf(body.body)] =
-        ReadBody(engine, body, IsPlanet(body.body) ? planetStyle : sunStyle);
+    const LabelStyle& fallback = IsDwarfPlanet(body.body)   ? dwarfStyle
+                                 : IsSunCircling(body.body) ? planetStyle
+                                                            : sunStyle;
+    display.bodies[IndexOf(body.body)] = ReadBody(engine, body, fallback);
   }
+  display.satellites = ReadSatelliteDisplay(engine);
+  display.satelliteStyle = ReadStyle(engine, u"Solar.Planet.Satellite.Name"_s, plain);
   for (const SkySwitch& row : kSkySwitches) display.*row.value = engine.IsOn(row.path);
   display.cometStyle = ReadStyle(engine, u"Solar.Comet.ID"_s, plain);
   display.regionStyle = ReadStyle(engine, u"Solar.MainBelt"_s, plain);

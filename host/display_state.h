@@ -3,31 +3,25 @@
 #pragma once
 
 #include <array>
-
-#include <QColor>
-#include <QFont>
-#include <QString>
+#include <vector>
 
 #include "host/body_table.h"
+#include "host/label_style.h"
+#include "host/satellite_display.h"
 
 namespace vyn {
 
 class ReferenceEngine;
 
-/// Colour and font of a kind of label. A label without a colour of its own takes that of what it
-/// labels.
-struct LabelStyle {
-  QColor color;
-  QFont font;
-};
-
-/// How the Sun, the Moon or a planet is drawn. Switches that a body does not have stay off.
+/// How the Sun, the Moon, a planet or a dwarf planet is drawn. Switches that a body does not have
+/// stay off.
 struct BodyDisplay {
   bool isVisible = false;
   bool surface = false;
   bool outline = false;
   bool japaneseName = false;
   bool englishName = false;
+  bool number = false;  ///< of the Moon among the Earth's satellites
   bool date = false;
   bool magnitude = false;
   bool halo = false;
@@ -35,17 +29,26 @@ struct BodyDisplay {
   bool grid = false;
   bool orbit = false;
   bool orbitInTheSky = false;
+  bool perpendicular = false;  ///< from the orbit to the ecliptic
+  bool orbitalPlane = false;
+  bool eclipticPlane = false;
   bool lagrangianMarks = false;
   bool placeNames = false;
   bool leadLines = false;
   /// The disk's radius is at least so many pixels; below 1 it has its true size.
   double minimumSizePixels = 0.0;
   double multiplier = 1.0;  ///< of the disk's size
+  /// How far the body moves in a time, told by an arrow that is lengthened so many times.
+  bool hasVector = false;
+  double vectorSpanDays = 1.0;
+  double vectorMultiplier = 1.0;
   LabelStyle nameStyle;
 };
 
 struct DisplayState {
-  std::array<BodyDisplay, kBodyCount> bodies;
+  std::array<BodyDisplay, kSkyBodyCount> bodies;
+  std::vector<SatelliteDisplay> satellites;  ///< those of which something is switched on
+  LabelStyle satelliteStyle;
   LabelStyle cometStyle;
   bool lunarEclipseUmbra = false;
   bool lunarEclipsePenumbra = false;
@@ -62,7 +65,7 @@ struct DisplayState {
   bool counterGlow = false;
   LabelStyle regionStyle;
 
-  const BodyDisplay& Of(Body body) const { return bodies[IndexOf(body)]; }
+  const BodyDisplay& Of(SkyBody body) const { return bodies[IndexOf(body)]; }
 };
 
 DisplayState ReadDisplayState(ReferenceEngine& engine);

@@ -41,7 +41,7 @@ QString DegreesText(double degrees, QStringView positive, QStringView negative) 
   return (degrees < 0.0 ? negative : positive) + u"%1°"_s.arg(std::abs(degrees), 0, 'f', 2);
 }
 
-QString PlaceText(const ReferenceEngine& engine, Body body) {
+QString PlaceText(const ReferenceEngine& engine, SkyBody body) {
   return RowOf(body).japaneseName + u" "_s +
          DegreesText(engine.Number(u"Location.Longitude"), u"東経", u"西経") + u' ' +
          DegreesText(engine.Number(u"Location.Latitude"), u"北緯", u"南緯");
@@ -72,6 +72,7 @@ Frame ReadFrame(ReferenceEngine& engine, const QSizeF& size) {
   frame.view = ReadViewState(engine);
   frame.display = ReadDisplayState(engine);
   frame.scene = BuildScene(engine, frame.view.kind);
+  AddSatellites(frame.display.satellites, frame.view.kind, &frame.scene);
   const CalendarDate date = LocalDate(engine);
   frame.dateText = u"%1月%2日"_s.arg(date.month).arg(date.day);
   frame.momentText = MomentText(date);
@@ -94,12 +95,13 @@ QRectF StatusArea(const QSizeF& pictureSize) {
   return {12.0, pictureSize.height() - 28.0, 540.0, 20.0};
 }
 
-QString LabelText(const Frame& frame, Body body) {
+QString LabelText(const Frame& frame, SkyBody body) {
   const BodyDisplay& display = frame.display.Of(body);
   const BodyRow& row = RowOf(body);
   QStringList parts;
   if (display.japaneseName) parts << row.japaneseName.toString();
   if (display.englishName) parts << row.englishName.toString();
+  if (display.number) parts << NumberText(Primary::Earth, 1);
   if (display.date) parts << frame.dateText;
   if (display.magnitude) {
     parts << u"%1等"_s.arg(frame.scene.Of(body).magnitude, 0, 'f', 1);

@@ -34,6 +34,6 @@ void PaintFrame(QPainter& painter, const Frame& frame);
 QRectF StatusArea(const QSizeF& pictureSize);
 
 /// What a body's label says: its name and date, as they are switched on.
-QString LabelText(const Frame& frame, Body body);
+QString LabelText(const Frame& frame, SkyBody body);
 
 }  // namespace vyn

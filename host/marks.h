@@ -1,7 +1,9 @@
-// The marks of Lagrangian points, the same in both views.
+// Marks that are the same in both views: Lagrangian points and the heads of arrows.
 #pragma once
 
 #include <optional>
+
+#include <QPainterPath>
 
 #include "host/labels.h"
 
@@ -20,5 +22,9 @@ class LagrangianMarks {
   LabelLayer& labels_;
   int number_ = 0;
 };
+
+/// Ends a line, in the picture, with the head of an arrow; a line that is hardly longer than the
+/// head gets none.
+QPainterPath WithArrowHead(QPainterPath line);
 
 }  // namespace vyn

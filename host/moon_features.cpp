@@ -4,7 +4,7 @@ namespace vyn {
 namespace {
 
 // clang-format off
-constexpr MoonFeature kFeatures[] = {
+constexpr SurfacePlace kFeatures[] = {
   {u"嵐の大洋",         u"Oceanus Procellarum", -56.7,  20.7, 2592},
   {u"雨の海",           u"Mare Imbrium",        -14.9,  34.7, 1146},
   {u"静かの海",         u"Mare Tranquillitatis", 30.8,   8.3,  876},
@@ -52,7 +52,7 @@ constexpr MoonSpot kSpots[] = {
 
 }  // namespace
 
-std::span<const MoonFeature> MoonFeatures() { return kFeatures; }
+std::span<const SurfacePlace> MoonFeatures() { return kFeatures; }
 
 std::span<const MoonSpot> MoonSpots() { return kSpots; }
 

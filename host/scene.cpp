@@ -9,6 +9,7 @@
 #include "engine/sky/disk_orientation.h"
 #include "engine/sky/magnitudes.h"
 #include "engine/sky/observer.h"
+#include "engine/sky/satellites.h"
 #include "engine/sky/sky_snapshot.h"
 #include "engine/sky/time_scales.h"
 #include "host/view_state.h"
@@ -17,7 +18,6 @@ namespace vyn {
 namespace {
 
 constexpr double kMetersPerAu = kKmPerAu * 1000.0;
-constexpr double kDaysPerYear = 365.25;
 
 Site ReadSite(const ReferenceEngine& engine) {
   return {engine.Number(u"Location.Longitude"),
@@ -45,8 +45,7 @@ void StandOnSphere(const Site& site, double jdTt, Viewpoint* viewpoint) {
   const Matrix3 toFixed = ToBodyFixed(viewpoint->body, jdTt);
   const Vector3 up = AdToDc(site.longitudeDeg, site.latitudeDeg);
   const Vector3 north = AdToDc(site.longitudeDeg, site.latitudeDeg + 90.0);
-  const double radiusAu =
-      FactsOf(viewpoint->body).radiusKm / kKmPerAu + site.heightM / kMetersPerAu;
+  const double radiusAu = RadiusKm(viewpoint->body) / kKmPerAu + site.heightM / kMetersPerAu;
   viewpoint->toHorizon = FromRows(north, Cross(up, north), up) * toFixed;
   viewpoint->position = viewpoint->position + Transposed(toFixed) * (radiusAu * up);
 }
@@ -56,11 +55,11 @@ Viewpoint ViewpointOf(const ReferenceEngine& engine, ViewKind kind, const Scene&
   const Observer observer(scene.jdUt, site);
   Viewpoint viewpoint;
   const int number = engine.GetLocationObject();
-  if (number == 0 || number == 1) viewpoint.body = static_cast<Body>(number);
+  if (number == 0 || number == 1) viewpoint.body = static_cast<SkyBody>(number);
   const StateVector state = HeliocentricState(viewpoint.body, scene.jdTt);
   viewpoint.position = state.position;
   viewpoint.velocity = state.velocity;
-  if (viewpoint.body == Body::Earth) {
+  if (viewpoint.body == SkyBody::Earth) {
     StandOnEarth(observer, &viewpoint);
   } else {
     StandOnSphere(site, scene.jdTt, &viewpoint);
@@ -72,13 +71,11 @@ Viewpoint ViewpointOf(const ReferenceEngine& engine, ViewKind kind, const Scene&
 }
 
 double Magnitude(const SceneBody& body, double jdTt) {
-  const Vector3 towardsObserver = ToBodyFixed(body.body, jdTt) * -body.seen;
-  const double year = 2000.0 + (jdTt - 2451545.0) / kDaysPerYear;
   return MagnitudeOf(body.body, IlluminationOf(body.heliocentric, body.seen),
-                     DcToAd(towardsObserver).latitudeDeg, year);
+                     ToBodyFixed(body.body, jdTt) * -body.seen, jdTt);
 }
 
-SceneBody SeenBody(Body body, double jdTt, const Viewpoint& viewpoint) {
+SceneBody SeenBody(SkyBody body, double jdTt, const Viewpoint& viewpoint) {
   const StateVector state = HeliocentricState(body, jdTt);
   SceneBody seen{body, state.position};
   seen.seen = body == viewpoint.body ? state.position - viewpoint.position
@@ -153,6 +150,24 @@ Scene BuildScene(const ReferenceEngine& engine, ViewKind view) {
     scene.comets = CometReader(engine).Read(scene.jdTt, scene.viewpoint);
   }
   return scene;
+}
+
+double ShownJdTt(const Scene& scene, SkyBody body, ViewKind view) {
+  if (view == ViewKind::SolarSystem) return scene.jdTt;
+  return scene.jdTt - Length(scene.Of(body).seen) / kLightAuPerDay;
+}
+
+void AddSatellites(std::span<const SatelliteDisplay> displays, ViewKind view, Scene* scene) {
+  for (const SatelliteDisplay& display : displays) {
+    if (!display.Facts().HasOrbit()) continue;
+    const SceneBody& body = scene->Of(BodyOf(display.primary));
+    SceneSatellite satellite{display};
+    satellite.fromBody =
+        SatellitePosition(display.primary, display.number, ShownJdTt(*scene, body.body, view));
+    satellite.magnitude =
+        SatelliteMagnitude(display.Facts(), IlluminationOf(body.heliocentric, body.seen));
+    scene->satellites.push_back(satellite);
+  }
 }
 
 }  // namespace vyn

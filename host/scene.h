@@ -2,12 +2,14 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <vector>
 
 #include <QString>
 
 #include "engine/sky/bodies.h"
 #include "host/body_table.h"
+#include "host/satellite_display.h"
 #include "siblings/astro/direction_cosines.h"
 
 namespace vyn {
@@ -15,16 +17,24 @@ namespace vyn {
 class ReferenceEngine;
 enum class ViewKind;
 
-/// The Sun, the Moon or a planet. Vectors are in au, in the ecliptic of J2000.
+/// The Sun, the Moon, a planet or a dwarf planet. Vectors are in au, in the ecliptic of J2000.
 struct SceneBody {
-  Body body = Body::Sun;
+  SkyBody body = SkyBody::Sun;
   Vector3 heliocentric;
   Vector3 seen;  ///< from the observer, where light shows it
   double magnitude = 0.0;
 
-  double RadiusAu() const { return FactsOf(body).radiusKm / kKmPerAu; }
+  double RadiusAu() const { return RadiusKm(body) / kKmPerAu; }
   /// Half the angle under which the disk is seen.
   double RadiusRad() const;
+};
+
+/// A satellite that is switched on.
+struct SceneSatellite {
+  SatelliteDisplay display;
+  /// From its body, in the same frame: in the sky as it is seen, from outside as it is.
+  Vector3 fromBody;
+  double magnitude = 0.0;  ///< NaN when not known
 };
 
 struct SceneComet {
@@ -43,7 +53,7 @@ inline bool IsWorthALabel(const SceneComet& comet) {
 
 /// Where the observer stands.
 struct Viewpoint {
-  Body body = Body::Earth;
+  SkyBody body = SkyBody::Earth;
   Vector3 position;  ///< relative to the Sun
   Vector3 velocity;
   /// From the ecliptic of J2000 to the frame of the sky view, right-handed with z upwards. In
@@ -59,14 +69,22 @@ struct Scene {
   double jdUt = 0.0;
   double jdTt = 0.0;
   Viewpoint viewpoint;
-  std::array<SceneBody, kBodyCount> bodies;
-  std::vector<SceneComet> comets;  ///< those that are switched on
+  std::array<SceneBody, kSkyBodyCount> bodies;
+  std::vector<SceneSatellite> satellites;  ///< whose orbit is known, by their bodies
+  std::vector<SceneComet> comets;          ///< those that are switched on
 
-  const SceneBody& Of(Body body) const { return bodies[IndexOf(body)]; }
+  const SceneBody& Of(SkyBody body) const { return bodies[IndexOf(body)]; }
 };
 
 /// Reads the moment, the place and the loaded comets of the engine. A comet is there when it is
 /// switched on itself or is brighter than the limit in force.
 Scene BuildScene(const ReferenceEngine& engine, ViewKind view);
+
+/// When the light left that shows a body of the scene in this view; from outside everything is
+/// shown where it is now.
+double ShownJdTt(const Scene& scene, SkyBody body, ViewKind view);
+
+/// Reckons the places of satellites as this view shows them, into the scene.
+void AddSatellites(std::span<const SatelliteDisplay> displays, ViewKind view, Scene* scene);
 
 }  // namespace vyn

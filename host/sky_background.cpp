@@ -60,16 +60,16 @@ SkyColors ColorsFor(double sunAltitudeDeg) {
 /// Only the Earth's air scatters light.
 SkyColors ColorsOf(const Frame& frame) {
   const Viewpoint& viewpoint = frame.scene.viewpoint;
-  if (frame.view.kind != ViewKind::Horizon || viewpoint.body != Body::Earth)
+  if (frame.view.kind != ViewKind::Horizon || viewpoint.body != SkyBody::Earth)
     return ColorsFor(-90.0);
-  return ColorsFor(DcToAd(viewpoint.toHorizon * frame.scene.Of(Body::Sun).seen).latitudeDeg);
+  return ColorsFor(DcToAd(viewpoint.toHorizon * frame.scene.Of(SkyBody::Sun).seen).latitudeDeg);
 }
 
 void PaintDustLight(SkyCanvas& canvas) {
   const DisplayState& display = canvas.frame.display;
   if (!display.zodiacalLight && !display.counterGlow) return;
   const Viewpoint& viewpoint = canvas.frame.scene.viewpoint;
-  const Spherical sun = DcToAd(viewpoint.toEcliptic * canvas.frame.scene.Of(Body::Sun).seen);
+  const Spherical sun = DcToAd(viewpoint.toEcliptic * canvas.frame.scene.Of(SkyBody::Sun).seen);
   const QImage glow =
       DustLightImage(canvas.projection, viewpoint.toEcliptic * Transposed(viewpoint.toView),
                      sun.longitudeDeg, display.zodiacalLight, display.counterGlow);

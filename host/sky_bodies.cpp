@@ -6,9 +6,11 @@
 #include <vector>
 
 #include "host/disk_painter.h"
-#include "host/moon_names.h"
+#include "host/place_names.h"
 #include "host/point_batches.h"
+#include "host/satellite_painter.h"
 #include "host/sky_canvas.h"
+#include "host/sky_satellites.h"
 
 namespace vyn {
 namespace {
@@ -45,7 +47,6 @@ void PaintSunDisk(SkyCanvas& canvas, const Disk& disk, const BodyDisplay& displa
 void PaintMoonDisk(SkyCanvas& canvas, const Disk& disk, const BodyDisplay& display) {
   if (display.surface) PaintMoonSurface(canvas.painter, disk);
   if (display.outline) PaintOutline(canvas.painter, disk, true);
-  if (display.placeNames) PaintMoonNames(canvas.painter, disk, display, canvas.labels);
 }
 
 void PaintPlanetDisk(SkyCanvas& canvas, const SceneBody& body, const Disk& disk) {
@@ -58,14 +59,15 @@ void PaintPlanetDisk(SkyCanvas& canvas, const SceneBody& body, const Disk& disk)
 
 void PaintDisk(SkyCanvas& canvas, const SceneBody& body, const Disk& disk,
                const BodyDisplay& display) {
-  if (body.body == Body::Sun) {
+  if (body.body == SkyBody::Sun) {
     PaintSunDisk(canvas, disk, display);
-  } else if (body.body == Body::Moon) {
+  } else if (body.body == SkyBody::Moon) {
     PaintMoonDisk(canvas, disk, display);
   } else {
     PaintPlanetDisk(canvas, body, disk);
   }
   if (display.grid) PaintGrid(canvas.painter, disk);
+  PaintPlaceNames(canvas.painter, body.body, disk, display, canvas.labels);
   if (display.compass) PaintCompass(canvas.painter, disk, canvas.labels);
 }
 
@@ -73,16 +75,14 @@ void PaintDisk(SkyCanvas& canvas, const SceneBody& body, const Disk& disk,
 void AddLabel(SkyCanvas& canvas, const SceneBody& body, const Disk& disk,
               const BodyDisplay& display) {
   const double size =
-      std::max(disk.radius, IsPlanet(body.body) ? PointRadius(body.magnitude) : 0.0);
+      std::max(disk.radius, IsSunCircling(body.body) ? PointRadius(body.magnitude) : 0.0);
   const double gap = size + (display.compass ? 24.0 : 5.0);
-  const LabelRank rank = IsPlanet(body.body) ? LabelRank::Body : LabelRank::Always;
+  const LabelRank rank = IsSunCircling(body.body) ? LabelRank::Body : LabelRank::Always;
   canvas.labels.Add({disk.center, gap, LabelText(canvas.frame, body.body),
                      StyleOr(display.nameStyle, disk.color), rank});
 }
 
-void PaintBody(SkyCanvas& canvas, const SceneBody& body) {
-  const BodyDisplay& display = canvas.frame.display.Of(body.body);
-  if (!display.isVisible || body.body == canvas.frame.scene.viewpoint.body) return;
+void PaintBody(SkyCanvas& canvas, const SceneBody& body, const BodyDisplay& display) {
   const auto at = canvas.At(body.seen);
   if (!at) return;
   Disk disk = DiskOf(body, canvas.frame.scene.jdTt, body.seen, canvas.AxesAt(body.seen),
@@ -95,6 +95,14 @@ void PaintBody(SkyCanvas& canvas, const SceneBody& body) {
   AddLabel(canvas, body, disk, display);
 }
 
+void PaintWithSatellites(SkyCanvas& canvas, const SceneBody& body) {
+  const BodyDisplay& display = canvas.frame.display.Of(body.body);
+  const double radius = display.isVisible ? DiskRadius(canvas, body, display) : 0.0;
+  PaintSkySatellites(canvas, body, radius, SatelliteSide::Behind);
+  if (display.isVisible) PaintBody(canvas, body, display);
+  PaintSkySatellites(canvas, body, radius, SatelliteSide::InFront);
+}
+
 }  // namespace
 
 /// The nearest last, so that it covers the others.
@@ -104,7 +112,9 @@ void PaintSkyBodies(SkyCanvas& canvas) {
   std::sort(bodies.begin(), bodies.end(), [](const SceneBody* a, const SceneBody* b) {
     return Length(a->seen) > Length(b->seen);
   });
-  for (const SceneBody* body : bodies) PaintBody(canvas, *body);
+  for (const SceneBody* body : bodies) {
+    if (body->body != canvas.frame.scene.viewpoint.body) PaintWithSatellites(canvas, *body);
+  }
 }
 
 void PaintSkyComets(SkyCanvas& canvas) {

@@ -7,7 +7,9 @@
 #include "engine/sky/lagrangian.h"
 #include "host/line_builder.h"
 #include "host/marks.h"
+#include "host/orbit_aids.h"
 #include "host/sky_canvas.h"
+#include "host/sky_satellites.h"
 #include "siblings/astro/angles.h"
 
 namespace vyn {
@@ -18,12 +20,12 @@ using namespace Qt::StringLiterals;
 const QColor kMoonOrbitColor(200, 200, 190, 170);
 
 /// The body about which another moves.
-Vector3 CentralPlace(const Scene& scene, Body body) {
-  return body == Body::Moon ? scene.Of(Body::Earth).heliocentric : Vector3{};
+Vector3 CentralPlace(const Scene& scene, SkyBody body) {
+  return body == SkyBody::Moon ? scene.Of(SkyBody::Earth).heliocentric : Vector3{};
 }
 
 /// An orbit as it would be seen from where the observer stands now.
-void PaintOrbit(SkyCanvas& canvas, Body body, const QColor& color) {
+void PaintOrbit(SkyCanvas& canvas, SkyBody body, const QColor& color) {
   constexpr int kPoints = 361;
   constexpr double kFarthestAu = 100.0;
   const Scene& scene = canvas.frame.scene;
@@ -35,7 +37,29 @@ void PaintOrbit(SkyCanvas& canvas, Body body, const QColor& color) {
   canvas.Stroke(line.Path(), QPen(color, 1.1));
 }
 
-void PaintMarks(SkyCanvas& canvas, Body body) {
+/// What is straight in space is an arc in the picture.
+void AddArc(SkyCanvas& canvas, const Segment& segment, LineBuilder* line) {
+  constexpr int kPieces = 6;
+  const Vector3& origin = canvas.frame.scene.viewpoint.position;
+  line->Break();
+  for (int i = 0; i <= kPieces; ++i) {
+    const double part = static_cast<double>(i) / kPieces;
+    line->To(canvas.At(segment[0] + (segment[1] - segment[0]) * part - origin));
+  }
+}
+
+void PaintPerpendiculars(SkyCanvas& canvas, SkyBody body) {
+  LineBuilder feet(canvas.frame.size);
+  for (const Segment& segment : OrbitPerpendiculars(body, canvas.frame.scene.jdTt)) {
+    AddArc(canvas, segment, &feet);
+  }
+  canvas.Stroke(feet.Path(), QPen(PerpendicularColor(body), 1.0));
+  LineBuilder own(canvas.frame.size);
+  AddArc(canvas, PerpendicularOf(canvas.frame.scene.Of(body)), &own);
+  canvas.Stroke(own.Path(), QPen(OrbitColor(body), 2.0));
+}
+
+void PaintMarks(SkyCanvas& canvas, SkyBody body) {
   const Scene& scene = canvas.frame.scene;
   const Vector3 origin = CentralPlace(scene, body) - scene.viewpoint.position;
   LagrangianMarks marks(canvas.painter, canvas.labels);
@@ -70,7 +94,7 @@ void PaintShadowEdge(SkyCanvas& canvas, const EarthShadow& shadow, const ShadowE
   const Vector3 middle = shadow.moonDistanceAu * std::cos(radius) * shadow.axis;
   const double size = shadow.moonDistanceAu * std::sin(radius);
   const Scene& scene = canvas.frame.scene;
-  const Vector3 origin = scene.Of(Body::Earth).heliocentric - scene.viewpoint.position;
+  const Vector3 origin = scene.Of(SkyBody::Earth).heliocentric - scene.viewpoint.position;
   LineBuilder line(canvas.frame.size);
   for (const Vector3& place :
        CirclePoints(middle + origin, size * across, size * Cross(across, shadow.axis), 120)) {
@@ -84,11 +108,26 @@ void PaintShadowEdge(SkyCanvas& canvas, const EarthShadow& shadow, const ShadowE
 
 void PaintSkyOrbits(SkyCanvas& canvas) {
   const DisplayState& display = canvas.frame.display;
-  if (display.Of(Body::Moon).orbit) PaintOrbit(canvas, Body::Moon, kMoonOrbitColor);
-  for (const Body planet : kPlanets) {
-    QColor color = QColor::fromRgb(RowOf(planet).color);
-    color.setAlpha(150);
-    if (display.Of(planet).orbitInTheSky) PaintOrbit(canvas, planet, color);
+  if (display.Of(SkyBody::Moon).orbit) PaintOrbit(canvas, SkyBody::Moon, kMoonOrbitColor);
+  for (const SkyBody body : kSunCircling) {
+    if (!display.Of(body).orbitInTheSky) continue;
+    PaintOrbit(canvas, body, OrbitColor(body));
+    if (display.Of(body).perpendicular) PaintPerpendiculars(canvas, body);
+  }
+  PaintSkySatelliteOrbits(canvas);
+}
+
+/// The observer's own body is not seen.
+void PaintSkyMotion(SkyCanvas& canvas) {
+  for (const SkyBody body : kSunCircling) {
+    const BodyDisplay& display = canvas.frame.display.Of(body);
+    const Scene& scene = canvas.frame.scene;
+    if (!display.hasVector || body == scene.viewpoint.body) continue;
+    LineBuilder line(canvas.frame.size);
+    for (const Vector3& direction : MotionInTheSky(scene.Of(body), display, scene)) {
+      line.To(canvas.At(direction));
+    }
+    canvas.Stroke(WithArrowHead(line.Path()), QPen(QColor::fromRgb(RowOf(body).color), 1.6));
   }
 }
 

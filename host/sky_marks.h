@@ -6,6 +6,7 @@ namespace vyn {
 struct SkyCanvas;
 
 void PaintSkyOrbits(SkyCanvas& canvas);
+void PaintSkyMotion(SkyCanvas& canvas);
 void PaintEarthShadow(SkyCanvas& canvas);
 void PaintSkyLagrangianMarks(SkyCanvas& canvas);
 

@@ -14,6 +14,7 @@ void PaintSky(QPainter& painter, const Frame& frame) {
   PaintSkyOrbits(canvas);
   PaintSkyComets(canvas);
   PaintSkyBodies(canvas);
+  PaintSkyMotion(canvas);
   PaintEarthShadow(canvas);
   PaintSkyLagrangianMarks(canvas);
   PaintGround(canvas);

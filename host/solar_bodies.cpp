@@ -5,17 +5,19 @@
 #include <cmath>
 
 #include "host/disk_painter.h"
-#include "host/moon_names.h"
+#include "host/place_names.h"
 #include "host/point_batches.h"
+#include "host/satellite_painter.h"
 #include "host/solar_canvas.h"
 #include "host/solar_eclipse.h"
+#include "host/solar_satellites.h"
 
 namespace vyn {
 namespace {
 
 /// Planets never shrink below a point; Jupiter's is the largest.
-double PointRadius(Body body) {
-  return std::clamp(std::log10(FactsOf(body).radiusKm) * 1.6 - 3.6, 1.8, 4.4);
+double PointRadius(SkyBody body) {
+  return std::clamp(std::log10(RadiusKm(body)) * 1.6 - 3.6, 1.8, 4.4);
 }
 
 /// Smaller disks show no night side: their planets could not be found against the dark.
@@ -24,14 +26,14 @@ constexpr double kSmallestSphere = 5.0;
 double DiskRadius(const SolarCanvas& canvas, const SceneBody& body, const BodyDisplay& display) {
   const double radius =
       body.RadiusAu() * canvas.camera.PixelsPerAu(body.heliocentric) * display.multiplier;
-  if (body.body == Body::Sun) return std::max({radius, display.minimumSizePixels, 3.0});
+  if (body.body == SkyBody::Sun) return std::max({radius, display.minimumSizePixels, 3.0});
   return std::max(radius, PointRadius(body.body));
 }
 
 /// From afar the Moon is one with the Earth, and the planets with the Sun.
 bool IsOneWithItsCentre(const SolarCanvas& canvas, const SceneBody& body) {
-  if (body.body == Body::Sun || body.body == canvas.frame.view.center) return false;
-  const Body center = body.body == Body::Moon ? Body::Earth : Body::Sun;
+  if (body.body == SkyBody::Sun || body.body == canvas.frame.view.center) return false;
+  const SkyBody center = body.body == SkyBody::Moon ? SkyBody::Earth : SkyBody::Sun;
   const Vector3& place = canvas.frame.scene.Of(center).heliocentric;
   return Length(body.heliocentric - place) * canvas.camera.PixelsPerAu(place) < 8.0;
 }
@@ -45,7 +47,6 @@ void PaintSunDisk(SolarCanvas& canvas, const Disk& disk, const BodyDisplay& disp
 void PaintMoonDisk(SolarCanvas& canvas, const Disk& disk, const BodyDisplay& display) {
   if (display.surface) PaintMoonSurface(canvas.painter, disk);
   if (display.outline) PaintOutline(canvas.painter, disk, true);
-  if (display.placeNames) PaintMoonNames(canvas.painter, disk, display, canvas.labels);
 }
 
 void PaintSpot(QPainter& painter, const Disk& disk) {
@@ -56,23 +57,22 @@ void PaintSpot(QPainter& painter, const Disk& disk) {
 
 void PaintDisk(SolarCanvas& canvas, const SceneBody& body, const Disk& disk,
                const BodyDisplay& display) {
-  if (body.body == Body::Sun) {
+  if (body.body == SkyBody::Sun) {
     PaintSunDisk(canvas, disk, display);
   } else if (disk.radius < kSmallestSphere) {
     PaintSpot(canvas.painter, disk);
-  } else if (body.body == Body::Moon) {
+  } else if (body.body == SkyBody::Moon) {
     PaintMoonDisk(canvas, disk, display);
   } else {
     PaintLitSurface(canvas.painter, disk);
   }
   if (display.grid) PaintGrid(canvas.painter, disk);
-  if (body.body == Body::Earth) PaintSolarEclipse(canvas, disk);
+  PaintPlaceNames(canvas.painter, body.body, disk, display, canvas.labels);
+  if (body.body == SkyBody::Earth) PaintSolarEclipse(canvas, disk);
   if (display.compass) PaintCompass(canvas.painter, disk, canvas.labels);
 }
 
-void PaintBody(SolarCanvas& canvas, const SceneBody& body) {
-  const BodyDisplay& display = canvas.frame.display.Of(body.body);
-  if (!display.isVisible || IsOneWithItsCentre(canvas, body)) return;
+void PaintBody(SolarCanvas& canvas, const SceneBody& body, const BodyDisplay& display) {
   const auto at = canvas.camera.ToPicture(body.heliocentric);
   if (!at) return;
   const Scene& scene = canvas.frame.scene;
@@ -87,17 +87,26 @@ void PaintBody(SolarCanvas& canvas, const SceneBody& body) {
                      LabelText(canvas.frame, body.body), StyleOr(display.nameStyle, disk.color)});
 }
 
+void PaintWithSatellites(SolarCanvas& canvas, const SceneBody& body) {
+  if (IsOneWithItsCentre(canvas, body)) return;
+  const BodyDisplay& display = canvas.frame.display.Of(body.body);
+  const double radius = display.isVisible ? DiskRadius(canvas, body, display) : 0.0;
+  PaintSolarSatellites(canvas, body, radius, SatelliteSide::Behind);
+  if (display.isVisible) PaintBody(canvas, body, display);
+  PaintSolarSatellites(canvas, body, radius, SatelliteSide::InFront);
+}
+
 }  // namespace
 
 /// The nearest last, so that it covers the others.
 void PaintSolarBodies(SolarCanvas& canvas) {
-  std::array<const SceneBody*, kBodyCount> bodies{};
+  std::array<const SceneBody*, kSkyBodyCount> bodies{};
   std::transform(canvas.frame.scene.bodies.begin(), canvas.frame.scene.bodies.end(), bodies.begin(),
                  [](const SceneBody& body) { return &body; });
   std::sort(bodies.begin(), bodies.end(), [&](const SceneBody* a, const SceneBody* b) {
     return canvas.camera.DepthAu(a->heliocentric) > canvas.camera.DepthAu(b->heliocentric);
   });
-  for (const SceneBody* body : bodies) PaintBody(canvas, *body);
+  for (const SceneBody* body : bodies) PaintWithSatellites(canvas, *body);
 }
 
 void PaintSolarComets(SolarCanvas& canvas) {

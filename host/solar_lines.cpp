@@ -7,6 +7,7 @@
 #include "engine/sky/lagrangian.h"
 #include "host/line_builder.h"
 #include "host/marks.h"
+#include "host/orbit_aids.h"
 #include "host/solar_canvas.h"
 
 namespace vyn {
@@ -51,19 +52,27 @@ std::vector<Vector3> OrbitThrough(const OrbitElements& orbit, const Vector3& pla
   return points;
 }
 
-Vector3 CentralPlace(const Scene& scene, Body body) {
-  return body == Body::Moon ? scene.Of(Body::Earth).heliocentric : Vector3{};
+Vector3 CentralPlace(const Scene& scene, SkyBody body) {
+  return body == SkyBody::Moon ? scene.Of(SkyBody::Earth).heliocentric : Vector3{};
 }
 
-void PaintOrbit(SolarCanvas& canvas, Body body) {
+void PaintOrbit(SolarCanvas& canvas, SkyBody body) {
   const Scene& scene = canvas.frame.scene;
   const Vector3 center = CentralPlace(scene, body);
   const Vector3 place = scene.Of(body).heliocentric - center;
   std::vector<Vector3> points = OrbitThrough(OrbitOf(body, scene.jdTt), place);
   for (Vector3& point : points) point = point + center;
-  QColor color = QColor::fromRgb(RowOf(body).color);
-  color.setAlpha(150);
-  canvas.Stroke(SpaceLine(canvas.camera, points), QPen(color, 1.1));
+  canvas.Stroke(SpaceLine(canvas.camera, points), QPen(OrbitColor(body), 1.1));
+}
+
+void PaintPerpendiculars(SolarCanvas& canvas, SkyBody body) {
+  QPainterPath feet;
+  for (const Segment& segment : OrbitPerpendiculars(body, canvas.frame.scene.jdTt)) {
+    feet.addPath(SpaceLine(canvas.camera, segment));
+  }
+  canvas.Stroke(feet, QPen(PerpendicularColor(body), 1.0));
+  canvas.Stroke(SpaceLine(canvas.camera, PerpendicularOf(canvas.frame.scene.Of(body))),
+                QPen(OrbitColor(body), 2.0));
 }
 
 }  // namespace
@@ -92,15 +101,28 @@ void PaintEclipticGrid(SolarCanvas& canvas) {
 
 void PaintSolarOrbits(SolarCanvas& canvas) {
   for (const BodyRow& row : kBodies) {
-    const bool isOn = canvas.frame.display.Of(row.body).orbit;
-    if (isOn && row.body != Body::Sun) PaintOrbit(canvas, row.body);
+    const BodyDisplay& display = canvas.frame.display.Of(row.body);
+    if (!display.orbit || row.body == SkyBody::Sun) continue;
+    PaintOrbit(canvas, row.body);
+    if (display.perpendicular) PaintPerpendiculars(canvas, row.body);
+  }
+}
+
+void PaintSolarMotion(SolarCanvas& canvas) {
+  for (const SkyBody body : kSunCircling) {
+    const BodyDisplay& display = canvas.frame.display.Of(body);
+    const Scene& scene = canvas.frame.scene;
+    if (!display.hasVector) continue;
+    const Segment arrow = MotionInSpace(scene.Of(body), display, scene.jdTt);
+    canvas.Stroke(WithArrowHead(SpaceLine(canvas.camera, arrow)),
+                  QPen(QColor::fromRgb(RowOf(body).color), 1.6));
   }
 }
 
 void PaintSolarLagrangianMarks(SolarCanvas& canvas) {
   const Scene& scene = canvas.frame.scene;
   for (const BodyRow& row : kBodies) {
-    if (!canvas.frame.display.Of(row.body).lagrangianMarks || row.body == Body::Sun) continue;
+    if (!canvas.frame.display.Of(row.body).lagrangianMarks || row.body == SkyBody::Sun) continue;
     const Vector3 center = CentralPlace(scene, row.body);
     // Where the whole figure is but a spot, its marks would hide what they mark.
     const double size = Length(scene.Of(row.body).heliocentric - center);

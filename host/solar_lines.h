@@ -9,6 +9,7 @@ struct SolarCanvas;
 void PaintEclipticGrid(SolarCanvas& canvas);
 
 void PaintSolarOrbits(SolarCanvas& canvas);
+void PaintSolarMotion(SolarCanvas& canvas);
 void PaintSolarLagrangianMarks(SolarCanvas& canvas);
 
 }  // namespace vyn

@@ -3,7 +3,9 @@
 #include "host/solar_bodies.h"
 #include "host/solar_canvas.h"
 #include "host/solar_lines.h"
+#include "host/solar_planes.h"
 #include "host/solar_regions.h"
+#include "host/solar_satellites.h"
 #include "host/vector_registers.h"
 
 namespace vyn {
@@ -15,9 +17,12 @@ void PaintSolarSystem(QPainter& painter, const Frame& frame) {
   PaintEclipticGrid(canvas);
   PaintSolarRegions(canvas);
   PaintCosmicScale(canvas);
+  PaintOrbitalPlanes(canvas);
   PaintSolarOrbits(canvas);
+  PaintSolarSatelliteOrbits(canvas);
   PaintSolarComets(canvas);
   PaintSolarBodies(canvas);
+  PaintSolarMotion(canvas);
   PaintSolarLagrangianMarks(canvas);
   canvas.labels.Paint(painter);
 }

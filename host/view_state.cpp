@@ -63,7 +63,7 @@ ViewState ReadViewState(ReferenceEngine& engine) {
   view.outside = ReadDirection(engine, kOutsidePath);
   view.distanceAu = Clamped(engine.Number(u"View.Outside.Distance", view.distanceAu),
                             kMinDistanceAu, kMaxDistanceAu);
-  view.center = BodyOfPath(engine.Property(u"View.Center"_s)).value_or(Body::Sun);
+  view.center = BodyOfPath(engine.Property(u"View.Center"_s)).value_or(SkyBody::Sun);
   view.isTracking = engine.IsOn(u"View.Center.Track");
   return view;
 }

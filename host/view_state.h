@@ -29,7 +29,7 @@ struct ViewState {
   /// the centre, and how far away.
   Spherical outside;
   double distanceAu = 60.0;
-  Body center = Body::Sun;
+  SkyBody center = SkyBody::Sun;
   /// The sky view keeps the centre in its middle.
   bool isTracking = false;
 };

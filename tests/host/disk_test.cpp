@@ -17,8 +17,8 @@ namespace {
 /// Seen from the Earth's centre with celestial north up, as the almanacs have it.
 Disk MoonDisk(double jdTt) {
   const Observer observer(jdTt, Site{});
-  SceneBody moon{Body::Moon, HeliocentricState(Body::Moon, jdTt).position};
-  moon.seen = moon.heliocentric - HeliocentricState(Body::Earth, jdTt).position;
+  SceneBody moon{SkyBody::Moon, HeliocentricState(SkyBody::Moon, jdTt).position};
+  moon.seen = moon.heliocentric - HeliocentricState(SkyBody::Earth, jdTt).position;
   const Vector3 sight = Normalized(moon.seen);
   const Vector3 right = Normalized(Cross(sight, observer.CelestialPole()));
   Disk disk = DiskOf(moon, jdTt, moon.seen, {right, Cross(right, sight)}, observer.CelestialPole());

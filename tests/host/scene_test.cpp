@@ -23,7 +23,7 @@ class SceneTest : public testing::Test {
         engine_.LoadElements(ElementKind::Comet, QStringLiteral(VYN_DATA_DIR "/comets.eld")));
   }
 
-  static Spherical InView(const Scene& scene, Body body) {
+  static Spherical InView(const Scene& scene, SkyBody body) {
     return DcToAd(scene.viewpoint.toView * scene.Of(body).seen);
   }
 
@@ -35,15 +35,15 @@ TEST_F(SceneTest, EclipticViewShowsJupiterOppositeToTheSunAtItsOpposition) {
   engine_.Doit(QStringLiteral("time = jst(2026, 1, 10, 18, 0, 0)"));
   const Scene scene = Build(ViewKind::Ecliptic);
   const double apart =
-      InView(scene, Body::Jupiter).longitudeDeg - InView(scene, Body::Sun).longitudeDeg;
+      InView(scene, SkyBody::Jupiter).longitudeDeg - InView(scene, SkyBody::Sun).longitudeDeg;
   EXPECT_NEAR(degmal(apart), 180.0, 0.1);
-  EXPECT_NEAR(InView(scene, Body::Sun).latitudeDeg, 0.0, 0.01);
+  EXPECT_NEAR(InView(scene, SkyBody::Sun).latitudeDeg, 0.0, 0.01);
 }
 
 // At the equinox of 2026-03-20 the Sun culminates 90 degrees less the latitude high.
 TEST_F(SceneTest, HorizonViewShowsTheNoonSunInTheSouth) {
   engine_.Doit(QStringLiteral("time = jst(2026, 3, 20, 11, 48, 20)"));
-  const Spherical sun = InView(Build(), Body::Sun);
+  const Spherical sun = InView(Build(), SkyBody::Sun);
   EXPECT_NEAR(degmal(-sun.longitudeDeg), 180.0, 0.5);
   EXPECT_NEAR(sun.latitudeDeg, 90.0 - 35.65, 0.25);
 }
@@ -52,27 +52,27 @@ TEST_F(SceneTest, HorizonViewShowsTheNoonSunInTheSouth) {
 // left.
 TEST_F(SceneTest, HorizonViewHasWestAtAzimuth270) {
   engine_.Doit(QStringLiteral("time = jst(2026, 3, 20, 17, 30, 0)"));
-  EXPECT_NEAR(degmal(-InView(Build(), Body::Sun).longitudeDeg), 268.0, 3.0);
+  EXPECT_NEAR(degmal(-InView(Build(), SkyBody::Sun).longitudeDeg), 268.0, 3.0);
 }
 
 TEST_F(SceneTest, ObserverOnTheMoonSeesTheEarthOverhead) {
   engine_.SetLocationObject(1);
   engine_.Doit(QStringLiteral("location = location(0, 0, 0)"));
   const Scene scene = Build();
-  EXPECT_EQ(scene.viewpoint.body, Body::Moon);
+  EXPECT_EQ(scene.viewpoint.body, SkyBody::Moon);
   // Libration carries the Earth up to some ten degrees from the zenith.
-  EXPECT_GT(InView(scene, Body::Earth).latitudeDeg, 79.0);
-  EXPECT_NEAR(2.0 * scene.Of(Body::Earth).RadiusRad() * kDegPerRad, 1.95, 0.15);
+  EXPECT_GT(InView(scene, SkyBody::Earth).latitudeDeg, 79.0);
+  EXPECT_NEAR(2.0 * scene.Of(SkyBody::Earth).RadiusRad() * kDegPerRad, 1.95, 0.15);
   engine_.Doit(QStringLiteral("location = location(90, 0, 0)"));
-  EXPECT_NEAR(InView(Build(), Body::Earth).latitudeDeg, 0.0, 11.0);
-  EXPECT_NEAR(degmal(-InView(Build(), Body::Earth).longitudeDeg), 270.0, 11.0);
+  EXPECT_NEAR(InView(Build(), SkyBody::Earth).latitudeDeg, 0.0, 11.0);
+  EXPECT_NEAR(degmal(-InView(Build(), SkyBody::Earth).longitudeDeg), 270.0, 11.0);
 }
 
 TEST_F(SceneTest, ObserverOnTheSunStandsOnItsSurface) {
   engine_.SetLocationObject(0);
   const Scene scene = Build();
-  EXPECT_NEAR(Length(scene.viewpoint.position), scene.Of(Body::Sun).RadiusAu(), 1e-6);
-  EXPECT_NEAR(Length(scene.Of(Body::Earth).seen), 0.983, 0.006);
+  EXPECT_NEAR(Length(scene.viewpoint.position), scene.Of(SkyBody::Sun).RadiusAu(), 1e-6);
+  EXPECT_NEAR(Length(scene.Of(SkyBody::Earth).seen), 0.983, 0.006);
 }
 
 TEST_F(SceneTest, CometsFollowTheirSwitchesAndTheLimit) {

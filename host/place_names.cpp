@@ -1,4 +1,4 @@
-#include "host/moon_names.h"
+#include "host/place_names.h"
 
 #include <algorithm>
 #include <vector>
@@ -6,9 +6,9 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
-#include "engine/sky/bodies.h"
 #include "host/disk_painter.h"
-#include "host/moon_features.h"
+#include "host/display_state.h"
+#include "host/surface_places.h"
 
 namespace vyn {
 namespace {
@@ -24,21 +24,19 @@ struct NamedPlace {
 
 LabelStyle NameStyle() { return {kNameColor, LabelFont(9)}; }
 
-QString NameOf(const MoonFeature& feature, const BodyDisplay& display) {
+QString NameOf(const SurfacePlace& place, const BodyDisplay& display) {
   const bool isEnglish = display.englishName && !display.japaneseName;
-  return (isEnglish ? feature.latinName : feature.japaneseName).toString();
+  return (isEnglish ? place.englishName : place.japaneseName).toString();
 }
 
-std::vector<NamedPlace> VisiblePlaces(const Disk& disk, const BodyDisplay& display) {
-  const double pixelsPerKm = disk.radius / FactsOf(Body::Moon).radiusKm;
-  std::vector<NamedPlace> places;
-  for (const MoonFeature& feature : MoonFeatures()) {
-    const auto at = disk.AtPlace(feature.longitudeDeg, feature.latitudeDeg);
-    if (at && feature.diameterKm * pixelsPerKm >= kSmallestFeaturePixels) {
-      places.push_back({*at, NameOf(feature, display)});
-    }
+std::vector<NamedPlace> VisiblePlaces(SkyBody body, const Disk& disk, const BodyDisplay& display) {
+  std::vector<NamedPlace> visible;
+  for (const SurfacePlace& place : PlacesOn(body)) {
+    const auto at = disk.AtPlace(place.longitudeDeg, place.latitudeDeg);
+    const double pixels = place.diameterKm / RadiusKm(body) * disk.radius;
+    if (at && pixels >= kSmallestFeaturePixels) visible.push_back({*at, NameOf(place, display)});
   }
-  return places;
+  return visible;
 }
 
 /// The heights of a column's lines: each as near to its feature as the lines above and below let it
@@ -99,9 +97,10 @@ void PaintWithLeadLines(QPainter& painter, const Disk& disk, const std::vector<N
 
 }  // namespace
 
-void PaintMoonNames(QPainter& painter, const Disk& disk, const BodyDisplay& display,
-                    LabelLayer& labels) {
-  const std::vector<NamedPlace> places = VisiblePlaces(disk, display);
+void PaintPlaceNames(QPainter& painter, SkyBody body, const Disk& disk, const BodyDisplay& display,
+                     LabelLayer& labels) {
+  if (!display.placeNames) return;
+  const std::vector<NamedPlace> places = VisiblePlaces(body, disk, display);
   if (display.leadLines) {
     PaintWithLeadLines(painter, disk, places, labels);
     return;

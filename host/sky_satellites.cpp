@@ -1,0 +1,55 @@
+#include "host/sky_satellites.h"
+
+#include "engine/sky/satellites.h"
+#include "host/line_builder.h"
+#include "host/satellite_painter.h"
+#include "host/sky_canvas.h"
+
+namespace vyn {
+namespace {
+
+constexpr double kMarginPixels = 30.0;
+
+double PixelsPerAu(const SkyCanvas& canvas, const Vector3& seen) {
+  return canvas.projection.PixelsPerRadian(canvas.ToView(seen)) / Length(seen);
+}
+
+void PaintOrbit(SkyCanvas& canvas, const SatelliteDisplay& display, const QPen& pen) {
+  const Frame& frame = canvas.frame;
+  const SceneBody& body = frame.scene.Of(BodyOf(display.primary));
+  if (body.body == frame.scene.viewpoint.body) return;
+  const double size =
+      display.Facts().mean.semiMajorAxisKm / kKmPerAu * PixelsPerAu(canvas, body.seen);
+  if (!IsOrbitVisible(size)) return;
+  LineBuilder line(frame.size);
+  for (const Vector3& place : SatelliteOrbitPolyline(
+           display.primary, display.number, ShownJdTt(frame.scene, body.body, frame.view.kind),
+           OrbitPointCount(size))) {
+    line.To(canvas.At(body.seen + place));
+  }
+  canvas.Stroke(line.Path(), pen);
+}
+
+}  // namespace
+
+void PaintSkySatellites(SkyCanvas& canvas, const SceneBody& body, double bodyRadius,
+                        SatelliteSide side) {
+  const auto sight = [&](const Vector3& fromBody) -> std::optional<Sighting> {
+    const Vector3 seen = body.seen + fromBody;
+    const auto at = canvas.At(seen);
+    // The body itself may stand outside the picture and its satellites inside.
+    const bool isBody = fromBody == Vector3{};
+    if (!at || (!isBody && !canvas.IsInPicture(*at, kMarginPixels))) return std::nullopt;
+    return Sighting{*at, PixelsPerAu(canvas, seen), seen, canvas.AxesAt(seen)};
+  };
+  PaintSatellites({canvas.painter, canvas.frame, canvas.labels, body, sight, bodyRadius}, side);
+}
+
+void PaintSkySatelliteOrbits(SkyCanvas& canvas) {
+  const QPen pen = SatelliteOrbitPen(canvas.frame);
+  for (const SceneSatellite& satellite : canvas.frame.scene.satellites) {
+    if (satellite.display.orbit) PaintOrbit(canvas, satellite.display, pen);
+  }
+}
+
+}  // namespace vyn

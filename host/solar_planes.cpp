@@ -1,0 +1,110 @@
+#include "host/solar_planes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
+#include "host/line_builder.h"
+#include "host/solar_canvas.h"
+#include "siblings/astro/angles.h"
+
+namespace vyn {
+namespace {
+
+const QColor kEclipticColor(110, 160, 235);
+constexpr int kEclipticAlpha = 20;
+constexpr int kNorthAlpha = 52;
+constexpr int kSouthAlpha = 24;
+
+using Area = std::vector<Vector3>;
+
+QColor WithAlpha(QColor color, int alpha) {
+  color.setAlpha(alpha);
+  return color;
+}
+
+/// The part of a convex area where `height`, which is linear, is not below 0.
+/// Source: Sutherland and Hodgman 1974.
+Area Above(const Area& area, const std::function<double(const Vector3&)>& height) {
+  Area above;
+  for (std::size_t i = 0; i < area.size(); ++i) {
+    const Vector3& from = area[i];
+    const Vector3& to = area[(i + 1) % area.size()];
+    const double a = height(from);
+    const double b = height(to);
+    if (a >= 0.0) above.push_back(from);
+    if ((a < 0.0) != (b < 0.0)) above.push_back(from + (to - from) * (a / (a - b)));
+  }
+  return above;
+}
+
+void Fill(SolarCanvas& canvas, const Area& area, const QColor& color) {
+  const double nearest = 0.01 * canvas.camera.DistanceAu();
+  QPolygonF polygon;
+  for (const Vector3& place :
+       Above(area, [&](const Vector3& place) { return canvas.camera.DepthAu(place) - nearest; })) {
+    if (const auto at = canvas.camera.ToPicture(place)) polygon << *at;
+  }
+  canvas.painter.setPen(Qt::NoPen);
+  canvas.painter.setBrush(color);
+  canvas.painter.drawPolygon(polygon);
+}
+
+/// The place on an orbit at this angle from perihelion, seen from the Sun.
+Vector3 OrbitPlace(const OrbitElements& orbit, double anomalyDeg) {
+  const OrbitPlane plane = PlaneOf(orbit);
+  const double anomaly = anomalyDeg * kRadPerDeg;
+  const double parameter = orbit.perihelionDistanceAu * (1.0 + orbit.eccentricity);
+  const double radius = parameter / (1.0 + orbit.eccentricity * std::cos(anomaly));
+  return radius * (std::cos(anomaly) * plane.towardsPerihelion +
+                   std::sin(anomaly) * plane.aheadOfPerihelion);
+}
+
+/// The part north of the ecliptic is brighter; they meet in the line of nodes.
+void PaintOrbitalPlane(SolarCanvas& canvas, SkyBody body) {
+  constexpr int kPoints = 181;
+  constexpr double kFarthestAu = 200.0;
+  const OrbitElements orbit = OrbitOf(body, canvas.frame.scene.jdTt);
+  Area area = OrbitPolyline(orbit, kPoints, kFarthestAu);
+  area.pop_back();
+  const QColor color = QColor::fromRgb(RowOf(body).color);
+  Fill(canvas, Above(area, [](const Vector3& place) { return place.z; }),
+       WithAlpha(color, kNorthAlpha));
+  Fill(canvas, Above(area, [](const Vector3& place) { return -place.z; }),
+       WithAlpha(color, kSouthAlpha));
+  const double ascendingDeg = -orbit.argumentOfPerihelionDeg;
+  const Vector3 nodes[] = {OrbitPlace(orbit, ascendingDeg),
+                           OrbitPlace(orbit, ascendingDeg + 180.0)};
+  canvas.Stroke(SpaceLine(canvas.camera, nodes), QPen(WithAlpha(color, 130), 1.0, Qt::DashLine));
+}
+
+double AphelionAu(const OrbitElements& orbit) {
+  return orbit.perihelionDistanceAu * (1.0 + orbit.eccentricity) / (1.0 - orbit.eccentricity);
+}
+
+/// The planes of all bodies are one, so it is filled once, as far as the farthest of them goes.
+void PaintEclipticPlane(SolarCanvas& canvas) {
+  double farthest = 0.0;
+  for (const SkyBody body : kSunCircling) {
+    if (!canvas.frame.display.Of(body).eclipticPlane) continue;
+    const double radius = AphelionAu(OrbitOf(body, canvas.frame.scene.jdTt));
+    canvas.Stroke(
+        SpaceLine(canvas.camera, CirclePoints({}, {radius, 0.0, 0.0}, {0.0, radius, 0.0}, 180)),
+        QPen(WithAlpha(kEclipticColor, 120), 1.0));
+    farthest = std::max(farthest, radius);
+  }
+  if (farthest == 0.0) return;
+  Fill(canvas, CirclePoints({}, {farthest, 0.0, 0.0}, {0.0, farthest, 0.0}, 180),
+       WithAlpha(kEclipticColor, kEclipticAlpha));
+}
+
+}  // namespace
+
+void PaintOrbitalPlanes(SolarCanvas& canvas) {
+  PaintEclipticPlane(canvas);
+  for (const SkyBody body : kSunCircling) {
+    if (canvas.frame.display.Of(body).orbitalPlane) PaintOrbitalPlane(canvas, body);
+  }
+}
+
+}  // namespace vyn

@@ -13,7 +13,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int kMostLines = 1000;
-constexpr qsizetype kLongestLine = 4000;
+constexpr qsizetype kLongestLine = 8000;
 
 /// The path that a command of the clock or of the view begins with; empty for others.
 QString RepeatedKind(const QString& command) {
@@ -44,6 +44,7 @@ CommandPanel::CommandPanel(QWidget* parent)
 
 void CommandPanel::Append(const QString& command) {
   QString line = command.left(kLongestLine);
+  if (command.size() > kLongestLine) line += u" …"_s;
   line.replace(u'\r', u' ').replace(u'\n', u' ');
   const QString kind = RepeatedKind(command);
   if (!kind.isEmpty() && kind == lastKind_ && !lines_->document()->isEmpty()) {

@@ -13,8 +13,7 @@ struct BodyDisplay;
 
 using Segment = std::array<Vector3, 2>;
 
-/// From places along the orbit down or up to the ecliptic, every five degrees of the orbit's course
-/// about.
+/// From places all along the orbit down or up to the ecliptic.
 std::vector<Segment> OrbitPerpendiculars(SkyBody body, double jdTt);
 
 /// The same from where the body is now.

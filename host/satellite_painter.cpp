@@ -13,8 +13,14 @@ namespace {
 const QColor kSatelliteColor(214, 210, 202);
 constexpr double kSmallestDiskPixels = 2.5;
 constexpr double kSmallestOrbitPixels = 6.0;
-/// Larger satellites get their labels first.
+constexpr double kSmallestOrbitOfSmallPixels = 40.0;
 constexpr double kLargeKm = 150.0;
+
+bool IsLarge(const Satellite& satellite) { return satellite.radiusKm > kLargeKm; }
+
+double OrbitPixels(const Satellite& satellite, double pixelsPerAu) {
+  return satellite.mean.semiMajorAxisKm / kKmPerAu * pixelsPerAu;
+}
 
 double PointRadius(const SceneSatellite& satellite) {
   constexpr double kFaintest = 1.0;
@@ -44,7 +50,7 @@ void PaintSatellite(const SatelliteStage& stage, const SceneSatellite& satellite
     stage.painter.setBrush(kSatelliteColor);
     stage.painter.drawEllipse(sighting.at, radius, radius);
   }
-  const LabelRank rank = facts.radiusKm > kLargeKm ? LabelRank::Place : LabelRank::Faint;
+  const LabelRank rank = IsLarge(facts) ? LabelRank::Place : LabelRank::Faint;
   stage.labels.Add({sighting.at, radius + 3.0, LabelText(satellite.display),
                     StyleOr(stage.frame.display.satelliteStyle, kSatelliteColor), rank});
 }
@@ -63,28 +69,30 @@ void PaintSatellites(const SatelliteStage& stage, SatelliteSide side) {
     if (!display.isVisible || BodyOf(display.primary) != stage.body.body) continue;
     const bool isBehind = Dot(satellite.fromBody, body->lineOfSight) > 0.0;
     if (isBehind != (side == SatelliteSide::Behind)) continue;
-    const double orbit = display.Facts().mean.semiMajorAxisKm / kKmPerAu;
-    if (!IsOrbitVisible(orbit * body->pixelsPerAu)) continue;
+    if (!IsApartFromBody(display.Facts(), body->pixelsPerAu)) continue;
     const auto sighting = stage.sight(satellite.fromBody);
-    if (!sighting || (isBehind && IsHidden(stage, body->at, sighting->at))) continue;
+    if (!sighting) continue;
+    if ((isBehind || stage.isMagnified) && IsHidden(stage, body->at, sighting->at)) continue;
     PaintSatellite(stage, satellite, *sighting);
   }
 }
 
-bool IsOrbitVisible(double semiMajorAxisPixels) {
-  return semiMajorAxisPixels >= kSmallestOrbitPixels;
+bool IsApartFromBody(const Satellite& satellite, double pixelsPerAu) {
+  return OrbitPixels(satellite, pixelsPerAu) >=
+         (IsLarge(satellite) ? kSmallestOrbitPixels : kSmallestOrbitOfSmallPixels);
 }
 
-QPen SatelliteOrbitPen(const Frame& frame) {
+QPen SatelliteOrbitPen(const Frame& frame, const Satellite& satellite) {
   QColor color = StyleOr(frame.display.satelliteStyle, kSatelliteColor).color;
-  color.setAlpha(110);
+  color.setAlpha(IsLarge(satellite) ? 130 : 60);
   return QPen(color, 1.0);
 }
 
-int OrbitPointCount(double semiMajorAxisPixels) {
+int OrbitPointCount(const Satellite& satellite, double pixelsPerAu) {
   constexpr double kFewest = 33.0;
   constexpr double kMost = 241.0;
-  return static_cast<int>(std::clamp(6.0 * std::sqrt(semiMajorAxisPixels), kFewest, kMost));
+  return static_cast<int>(
+      std::clamp(6.0 * std::sqrt(OrbitPixels(satellite, pixelsPerAu)), kFewest, kMost));
 }
 
 }  // namespace vyn

@@ -31,6 +31,8 @@ struct SatelliteStage {
   std::function<std::optional<Sighting>(const Vector3& fromBody)> sight;
   /// Of the body's disk, in pixels; what stands behind it is not seen. 0 for a body not drawn.
   double bodyRadius = 0.0;
+  /// A magnified disk reaches farther than the body does, so it hides what is in front of it too.
+  bool isMagnified = false;
 };
 
 enum class SatelliteSide { Behind, InFront };
@@ -38,14 +40,15 @@ enum class SatelliteSide { Behind, InFront };
 /// Those farther away than their body, or those nearer, so that the body can be painted between.
 void PaintSatellites(const SatelliteStage& stage, SatelliteSide side);
 
-/// Whether an orbit so large is worth drawing; of a smaller one the satellites are one with their
-/// body.
-bool IsOrbitVisible(double semiMajorAxisPixels);
+/// Whether a satellite and its orbit are worth drawing where an au has so many pixels. Of a smaller
+/// orbit the satellite is one with its body. The small satellites come in later: there are so many
+/// that they would be a cloud about it.
+bool IsApartFromBody(const Satellite& satellite, double pixelsPerAu);
 
-/// The pen for the orbits of a body's satellites.
-QPen SatelliteOrbitPen(const Frame& frame);
+/// The line of an orbit, fainter for the small satellites.
+QPen SatelliteOrbitPen(const Frame& frame, const Satellite& satellite);
 
 /// As many points as an orbit of that size needs to look round.
-int OrbitPointCount(double semiMajorAxisPixels);
+int OrbitPointCount(const Satellite& satellite, double pixelsPerAu);
 
 }  // namespace vyn

@@ -14,20 +14,19 @@ double PixelsPerAu(const SkyCanvas& canvas, const Vector3& seen) {
   return canvas.projection.PixelsPerRadian(canvas.ToView(seen)) / Length(seen);
 }
 
-void PaintOrbit(SkyCanvas& canvas, const SatelliteDisplay& display, const QPen& pen) {
+void PaintOrbit(SkyCanvas& canvas, const SatelliteDisplay& display) {
   const Frame& frame = canvas.frame;
   const SceneBody& body = frame.scene.Of(BodyOf(display.primary));
   if (body.body == frame.scene.viewpoint.body) return;
-  const double size =
-      display.Facts().mean.semiMajorAxisKm / kKmPerAu * PixelsPerAu(canvas, body.seen);
-  if (!IsOrbitVisible(size)) return;
+  const double pixelsPerAu = PixelsPerAu(canvas, body.seen);
+  if (!IsApartFromBody(display.Facts(), pixelsPerAu)) return;
   LineBuilder line(frame.size);
   for (const Vector3& place : SatelliteOrbitPolyline(
            display.primary, display.number, ShownJdTt(frame.scene, body.body, frame.view.kind),
-           OrbitPointCount(size))) {
+           OrbitPointCount(display.Facts(), pixelsPerAu))) {
     line.To(canvas.At(body.seen + place));
   }
-  canvas.Stroke(line.Path(), pen);
+  canvas.Stroke(line.Path(), SatelliteOrbitPen(canvas.frame, display.Facts()));
 }
 
 }  // namespace
@@ -42,13 +41,14 @@ void PaintSkySatellites(SkyCanvas& canvas, const SceneBody& body, double bodyRad
     if (!at || (!isBody && !canvas.IsInPicture(*at, kMarginPixels))) return std::nullopt;
     return Sighting{*at, PixelsPerAu(canvas, seen), seen, canvas.AxesAt(seen)};
   };
-  PaintSatellites({canvas.painter, canvas.frame, canvas.labels, body, sight, bodyRadius}, side);
+  const bool isMagnified = canvas.frame.display.Of(body.body).multiplier > 1.0;
+  PaintSatellites(
+      {canvas.painter, canvas.frame, canvas.labels, body, sight, bodyRadius, isMagnified}, side);
 }
 
 void PaintSkySatelliteOrbits(SkyCanvas& canvas) {
-  const QPen pen = SatelliteOrbitPen(canvas.frame);
   for (const SceneSatellite& satellite : canvas.frame.scene.satellites) {
-    if (satellite.display.orbit) PaintOrbit(canvas, satellite.display, pen);
+    if (satellite.display.orbit) PaintOrbit(canvas, satellite.display);
   }
 }
 

@@ -10,16 +10,15 @@ namespace {
 
 constexpr double kMarginPixels = 30.0;
 
-void PaintOrbit(SolarCanvas& canvas, const SatelliteDisplay& display, const QPen& pen) {
+void PaintOrbit(SolarCanvas& canvas, const SatelliteDisplay& display) {
   const Scene& scene = canvas.frame.scene;
   const Vector3& center = scene.Of(BodyOf(display.primary)).heliocentric;
-  const double size =
-      display.Facts().mean.semiMajorAxisKm / kKmPerAu * canvas.camera.PixelsPerAu(center);
-  if (!IsOrbitVisible(size)) return;
-  std::vector<Vector3> points =
-      SatelliteOrbitPolyline(display.primary, display.number, scene.jdTt, OrbitPointCount(size));
+  const double pixelsPerAu = canvas.camera.PixelsPerAu(center);
+  if (!IsApartFromBody(display.Facts(), pixelsPerAu)) return;
+  std::vector<Vector3> points = SatelliteOrbitPolyline(
+      display.primary, display.number, scene.jdTt, OrbitPointCount(display.Facts(), pixelsPerAu));
   for (Vector3& point : points) point = point + center;
-  canvas.Stroke(SpaceLine(canvas.camera, points), pen);
+  canvas.Stroke(SpaceLine(canvas.camera, points), SatelliteOrbitPen(canvas.frame, display.Facts()));
 }
 
 }  // namespace
@@ -34,13 +33,14 @@ void PaintSolarSatellites(SolarCanvas& canvas, const SceneBody& body, double bod
     return Sighting{*at, canvas.camera.PixelsPerAu(place), place - canvas.camera.Eye(),
                     canvas.camera.AxesAt(place)};
   };
-  PaintSatellites({canvas.painter, canvas.frame, canvas.labels, body, sight, bodyRadius}, side);
+  const bool isMagnified = canvas.frame.display.Of(body.body).multiplier > 1.0;
+  PaintSatellites(
+      {canvas.painter, canvas.frame, canvas.labels, body, sight, bodyRadius, isMagnified}, side);
 }
 
 void PaintSolarSatelliteOrbits(SolarCanvas& canvas) {
-  const QPen pen = SatelliteOrbitPen(canvas.frame);
   for (const SceneSatellite& satellite : canvas.frame.scene.satellites) {
-    if (satellite.display.orbit) PaintOrbit(canvas, satellite.display, pen);
+    if (satellite.display.orbit) PaintOrbit(canvas, satellite.display);
   }
 }
 

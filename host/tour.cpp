@@ -65,8 +65,8 @@ constexpr Stop kStops[] = {
   {u"motion_in_the_sky", u"time = jst(2026, 2, 20, 18, 0, 0); View.Coordinate = Ecliptic; View.Longitude = 0; View.Latitude = 0; View.Angle = 75;"
                      u" Solar.Planet.Orbit.InTheSky.Visible = TRUE; Solar.Planet.Orbit.Perpendicular.Visible = TRUE; Solar.Planet.Magnitude.Visible = TRUE;"
                      u" Solar.Planet.Vector.Visible = TRUE; Solar.Planet.Vector.Span = 5; Solar.Planet.Vector.Multiplier = 3; Show Sky"},
-  {u"magnified_disks", u"View.Coordinate = Ecliptic; View.Longitude = 110; View.Latitude = 0; View.Angle = 30; Solar.Planet.Disk.Multiplier = 250;"
-                     u" Solar.Planet.Disk.Compass.Visible = TRUE; Solar.Planet.Disk.Grid.Visible = TRUE; Show Sky"},
+  {u"magnified_disks", u"time = jst(2026, 6, 16, 20, 0, 0); View.Coordinate = Ecliptic; View.Longitude = 112; View.Latitude = 0; View.Angle = 25;"
+                     u" Solar.Planet.Disk.Multiplier = 200; Solar.Planet.Disk.Compass.Visible = TRUE; Solar.Planet.Disk.Grid.Visible = TRUE; Show Sky"},
   {u"mars",          u"View.Projection = SolarSystem; View.Center = Solar.Planet.Mars; View.Outside.Distance = 0.00012;"
                      u" View.Outside.Longitude = 100; View.Outside.Latitude = 10; Solar.Planet.Mars.Surface.Name.Visible = TRUE;"
                      u" Solar.Planet.Mars.Surface.Name.LeadLine.Visible = TRUE; Solar.Planet.Mars.Disk.Grid.Visible = TRUE; Show Sky"},
@@ -80,9 +80,10 @@ constexpr Stop kStops[] = {
   {u"dwarf_planets", u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 190; View.Outside.Latitude = 14;"
                      u" Solar.DwarfPlanet.Orbit.Perpendicular.Visible = TRUE; Solar.DwarfPlanet.Date.Visible = TRUE;"
                      u" Solar.DwarfPlanet.Pluto.OrbitalPlane.Visible = TRUE; Solar.DwarfPlanet.Pluto.EclipticPlane.Visible = TRUE; Show Sky"},
-  {u"jupiter_satellites", u"View.Center = Solar.Planet.Jupiter; View.Center.Track = TRUE; View.Angle = 0.4;"
+  {u"jupiter_satellites", u"time = jst(2026, 1, 2, 1, 0, 0); View.Center = Solar.Planet.Jupiter; View.Center.Track = TRUE; View.Angle = 0.4;"
                      u" Solar.Planet.Jupiter.Satellite.JapaneseName.Visible = TRUE; Solar.Planet.Jupiter.Satellite.Number.Visible = TRUE;"
-                     u" Solar.Planet.Jupiter.Satellite.Orbit.Visible = TRUE; Show Sky"},
+                     u" Solar.Planet.Jupiter.Satellite.No1.Orbit.Visible = TRUE; Solar.Planet.Jupiter.Satellite.No2.Orbit.Visible = TRUE;"
+                     u" Solar.Planet.Jupiter.Satellite.No3.Orbit.Visible = TRUE; Solar.Planet.Jupiter.Satellite.No4.Orbit.Visible = TRUE; Show Sky"},
   {u"saturn_satellites", u"View.Projection = SolarSystem; View.Center = Solar.Planet.Saturn; View.Outside.Distance = 0.012;"
                      u" View.Outside.Latitude = 25; Solar.Planet.Saturn.Satellite.JapaneseName.Visible = TRUE;"
                      u" Solar.Planet.Saturn.Satellite.Orbit.Visible = TRUE; Show Sky"},
@@ -97,9 +98,9 @@ constexpr Stop kStops[] = {
 
 constexpr DialogStop kDialogStops[] = {
   {13004, u"View.Center = Solar.Moon; View.Center.Track = TRUE; View.Angle = 2; Show Sky", {1024, 1025, 1030}},
-  {13002, u"View.Coordinate = Ecliptic; View.Longitude = 60; View.Latitude = 0; View.Angle = 110; Show Sky", {1107, 1121, 1134}},
+  {13002, u"time = jst(2026, 2, 20, 18, 0, 0); View.Coordinate = Ecliptic; View.Longitude = 330; View.Latitude = 18; View.Angle = 100; Show Sky", {1107, 1121, 1123}},
   {13005, u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 190; View.Outside.Latitude = 14; Show Sky", {1319, 1376, 1379}},
-  {13003, u"View.Center = Solar.Planet.Jupiter; View.Center.Track = TRUE; View.Angle = 0.4; Show Sky", {1511, 1515, 1517}},
+  {13003, u"View.Coordinate = Ecliptic; View.Longitude = 109.7; View.Latitude = 1.1; View.Angle = 3; Show Sky", {1511, 1515, 1517}},
   {13019, u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 9; Show Sky", {11103, 11105, 11108}},
   {13015, u"time = jst(2026, 3, 10, 19, 20, 0); View.Azimuth = 265; View.Altitude = 38; View.Angle = 95; Show Sky", {11102, 11103, 0}},
 };

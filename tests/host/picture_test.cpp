@@ -51,6 +51,34 @@ constexpr char16_t kEarthAndMoon[] =
 constexpr char16_t kEvening[] =
     u"time = jst(2026, 3, 10, 19, 20, 0); View.Azimuth = 265; View.Altitude = 38";
 
+constexpr char16_t kInnerSystem[] =
+    u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 2";
+constexpr char16_t kJupiter[] =
+    u"View.Center = Solar.Planet.Jupiter; View.Center.Track = TRUE; View.Angle = 0.4";
+constexpr char16_t kJupiterOutside[] =
+    u"View.Projection = SolarSystem; View.Center = Solar.Planet.Jupiter;"
+    u"View.Outside.Distance = 0.03";
+constexpr char16_t kCeres[] =
+    u"View.Center = Solar.DwarfPlanet.Ceres; View.Center.Track = TRUE; View.Angle = 0.5;"
+    u"Solar.DwarfPlanet.Disk.Multiplier = 500";
+constexpr char16_t kPlutoOutside[] =
+    u"View.Projection = SolarSystem; View.Center = Solar.DwarfPlanet.Pluto;"
+    u"View.Outside.Distance = 0.0012";
+constexpr char16_t kMarsOutside[] =
+    u"View.Projection = SolarSystem; View.Center = Solar.Planet.Mars;"
+    u"View.Outside.Distance = 0.00012";
+constexpr char16_t kEarthOutside[] =
+    u"View.Projection = SolarSystem; View.Center = Solar.Planet.Earth;"
+    u"View.Outside.Distance = 0.0002";
+constexpr char16_t kAroundTheSun[] = u"View.Coordinate = Ecliptic; View.Longitude = 281";
+constexpr char16_t kAroundCeres[] =
+    u"View.Coordinate = Ecliptic; View.Longitude = 0; View.Latitude = -10; View.Angle = 60";
+constexpr char16_t kMovingPlanets[] =
+    u"View.Coordinate = Ecliptic; View.Longitude = 281; Solar.Planet.Vector.Visible = TRUE";
+constexpr char16_t kMercuryOrbitInTheSky[] =
+    u"View.Coordinate = Ecliptic; View.Longitude = 281;"
+    u"Solar.Planet.Mercury.Orbit.InTheSky.Visible = TRUE";
+
 // clang-format off
 constexpr SwitchCase kCases[] = {
   {"SunShown",            kSun,       u"solar.sun.visible = FALSE"},
@@ -92,6 +120,52 @@ constexpr SwitchCase kCases[] = {
   {"CounterGlow",         u"View.Coordinate = Ecliptic; View.Longitude = 101", u"solar.CounterGlow.Visible = TRUE"},
   {"PlanetOrbit",         kPlanets,   u"Solar.Planet.Mars.Orbit.Visible = FALSE"},
   {"PlanetOrbitInTheSky", u"View.Coordinate = Ecliptic", u"Solar.Planet.Mars.Orbit.InTheSky.Visible = TRUE"},
+  {"PlanetShown",         kJupiter,   u"Solar.Planet.Jupiter.Visible = FALSE"},
+  {"PlanetShownOutside",  kJupiterOutside, u"Solar.Planet.Jupiter.Visible = FALSE"},
+  {"PlanetNameEnglish",   kJupiter,   u"Solar.Planet.Jupiter.JapaneseName.Visible = FALSE; Solar.Planet.Jupiter.EnglishName.Visible = TRUE"},
+  {"PlanetMagnitude",     kJupiter,   u"Solar.Planet.Jupiter.Magnitude.Visible = TRUE"},
+  {"PlanetDate",          kJupiter,   u"Solar.Planet.Jupiter.Date.Visible = TRUE"},
+  {"PlanetNameColor",     kJupiter,   u"Solar.Planet.Name.Color = #ff0000"},
+  {"PlanetMagnified",     kJupiter,   u"Solar.Planet.disk.multiplier = 3"},
+  {"PlanetCompass",       kJupiter,   u"Solar.Planet.Jupiter.Disk.Compass.Visible = TRUE"},
+  {"PlanetGrid",          kJupiter,   u"Solar.Planet.Jupiter.Disk.Grid.Visible = TRUE"},
+  {"PlanetGridOutside",   kJupiterOutside, u"Solar.Planet.Jupiter.Disk.Grid.Visible = TRUE"},
+  {"PlanetLagrangian",    u"View.Coordinate = Ecliptic; View.Longitude = 110", u"Solar.Planet.Jupiter.LagrangianPoint.Mark.Visible = TRUE"},
+  {"PlanetLagrangianOutside", kOuterSystem, u"Solar.Planet.Neptune.LagrangianPoint.Mark.Visible = TRUE"},
+  {"PlanetPerpendicular", kInnerSystem, u"Solar.Planet.Mercury.Orbit.Perpendicular.Visible = TRUE"},
+  {"PlanetPerpendicularInTheSky", kMercuryOrbitInTheSky, u"Solar.Planet.Mercury.Orbit.Perpendicular.Visible = TRUE"},
+  {"PlanetOrbitalPlane",  kInnerSystem, u"Solar.Planet.Mercury.OrbitalPlane.Visible = TRUE"},
+  {"PlanetEclipticPlane", kInnerSystem, u"Solar.Planet.Mercury.EclipticPlane.Visible = TRUE"},
+  {"PlanetVector",        kAroundTheSun, u"Solar.Planet.vector.Visible = TRUE"},
+  {"PlanetVectorOutside", kInnerSystem, u"Solar.Planet.vector.Visible = TRUE"},
+  {"PlanetVectorSpan",    kMovingPlanets, u"Solar.Planet.vector.span = 10.000000"},
+  {"PlanetVectorMultiplier", kMovingPlanets, u"Solar.Planet.vector.multiplier = 5.000000"},
+  {"MarsPlaceNames",      kMarsOutside, u"Solar.Planet.Mars.Surface.Name.Visible = TRUE"},
+  {"EarthPlaceNames",     kEarthOutside, u"Solar.Planet.Earth.Surface.Name.Visible = TRUE"},
+  {"DwarfPlanetShown",    kCeres,     u"Solar.Dwarfplanet.Ceres.Visible = FALSE"},
+  {"DwarfPlanetNameEnglish", kCeres,  u"Solar.Dwarfplanet.Ceres.JapaneseName.Visible = FALSE; Solar.Dwarfplanet.Ceres.EnglishName.Visible = TRUE"},
+  {"DwarfPlanetMagnitude", kCeres,    u"Solar.Dwarfplanet.Ceres.Magnitude.Visible = TRUE"},
+  {"DwarfPlanetDate",     kCeres,     u"Solar.Dwarfplanet.Ceres.Date.Visible = TRUE"},
+  {"DwarfPlanetNameColor", kCeres,    u"Solar.Dwarfplanet.Name.Color = #ff0000"},
+  {"DwarfPlanetMagnified", kCeres,    u"Solar.Dwarfplanet.Disk.Multiplier = 100"},
+  {"DwarfPlanetCompass",  kCeres,     u"Solar.Dwarfplanet.Ceres.Disk.Compass.Visible = TRUE"},
+  {"DwarfPlanetGrid",     kCeres,     u"Solar.Dwarfplanet.Ceres.Disk.Grid.Visible = TRUE"},
+  {"DwarfPlanetLagrangian", kOuterSystem, u"Solar.Dwarfplanet.Pluto.LagrangianPoint.Mark.Visible = TRUE"},
+  {"DwarfPlanetOrbit",    kOuterSystem, u"Solar.Dwarfplanet.Eris.Orbit.Visible = FALSE"},
+  {"DwarfPlanetOrbitInTheSky", kAroundCeres, u"Solar.Dwarfplanet.Ceres.Orbit.InTheSky.Visible = TRUE"},
+  {"DwarfPlanetPerpendicular", kOuterSystem, u"Solar.Dwarfplanet.Haumea.Orbit.Perpendicular.Visible = TRUE"},
+  {"DwarfPlanetOrbitalPlane", kOuterSystem, u"Solar.Dwarfplanet.Makemake.OrbitalPlane.Visible = TRUE"},
+  {"DwarfPlanetEclipticPlane", kOuterSystem, u"Solar.Dwarfplanet.Makemake.EclipticPlane.Visible = TRUE"},
+  {"DwarfPlanetVector",   kAroundCeres, u"Solar.Dwarfplanet.vector.Visible = TRUE; Solar.Dwarfplanet.vector.multiplier = 20"},
+  {"SatelliteShown",      kJupiter,   u"Solar.planet.jupiter.Satellite.no3.Visible = FALSE"},
+  {"SatelliteShownOutside", kPlutoOutside, u"Solar.dwarfplanet.pluto.Satellite.no1.Visible = FALSE"},
+  {"SatelliteJapaneseName", kJupiter, u"Solar.planet.jupiter.Satellite.no3.JapaneseName.Visible = TRUE"},
+  {"SatelliteEnglishName", kJupiter,  u"Solar.planet.jupiter.Satellite.no3.EnglishName.Visible = TRUE"},
+  {"SatelliteNumber",     kJupiter,   u"Solar.planet.jupiter.Satellite.no3.Number.Visible = TRUE"},
+  {"SatelliteOrbit",      kJupiter,   u"Solar.planet.jupiter.Satellite.no3.Orbit.Visible = TRUE"},
+  {"SatelliteOrbitOutside", kJupiterOutside, u"Solar.planet.jupiter.Satellite.no3.Orbit.Visible = TRUE"},
+  {"SatelliteNameColor",  u"View.Center = Solar.Planet.Jupiter; View.Center.Track = TRUE; View.Angle = 0.4; Solar.Planet.Jupiter.Satellite.JapaneseName.Visible = TRUE", u"Solar.Planet.Satellite.Name.Color = #ff0000"},
+  {"MoonNumber",          kMoon,      u"Solar.moon.Number.Visible = TRUE"},
 };
 // clang-format on
 
@@ -118,13 +192,27 @@ TEST_P(SwitchTest, ChangesThePictureAndBack) {
 INSTANTIATE_TEST_SUITE_P(Properties, SwitchTest, testing::ValuesIn(kCases),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST(PictureTest, LeadLinesMoveTheNamesBesideTheMoon) {
+TEST(PictureTest, LeadLinesMoveTheNamesBesideTheDisk) {
+  const std::pair<const char16_t*, QString> cases[] = {{kMoon, u"Solar.Moon"_s},
+                                                       {kMarsOutside, u"Solar.Planet.Mars"_s},
+                                                       {kEarthOutside, u"Solar.Planet.Earth"_s}};
+  for (const auto& [sky, body] : cases) {
+    ReferenceEngine engine;
+    engine.LoadStartingState();
+    engine.Doit(QString::fromUtf16(sky) + u"; "_s + body + u".Surface.Name.Visible = TRUE"_s);
+    const QImage without = Picture(engine);
+    engine.Doit(QString(body + u".Surface.Name.LeadLine.Visible = TRUE"_s));
+    EXPECT_NE(without, Picture(engine)) << body.toStdString();
+  }
+}
+
+TEST(PictureTest, MagnifiedDiskHidesTheSatellitesAboutIt) {
   ReferenceEngine engine;
   engine.LoadStartingState();
-  engine.Doit(QString::fromUtf16(kMoon) + u"; solar.moon.surface.name.visible = TRUE"_s);
-  const QImage without = Picture(engine);
-  engine.Doit(u"solar.moon.surface.name.leadline.visible = TRUE"_s);
-  EXPECT_NE(without, Picture(engine));
+  engine.Doit(QString::fromUtf16(kJupiter) + u"; Solar.Planet.Disk.Multiplier = 30"_s);
+  const QImage with = Picture(engine);
+  engine.Doit(u"Solar.Planet.Jupiter.Satellite.Visible = FALSE"_s);
+  EXPECT_EQ(with.copy(220, 140, 200, 200), Picture(engine).copy(220, 140, 200, 200));
 }
 
 TEST(PictureTest, EveryViewIsPaintedFromEveryBodyAtEverySize) {

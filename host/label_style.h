@@ -8,7 +8,6 @@ namespace vyn {
 
 /// Colour and font of a kind of label. A label without a colour of its own takes that of what it
 /// labels.
-/// labels.
 struct LabelStyle {
   QColor color;
   QFont font;

@@ -13,6 +13,9 @@
 
 namespace vyn {
 
+/// Lines that are no wider are drawn several times as fast.
+inline constexpr double kOrbitLinePixels = 1.0;
+
 class LineBuilder {
  public:
   /// Lines are cut off a little outside the picture.

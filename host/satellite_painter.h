@@ -9,6 +9,7 @@
 #include "host/sky_projection.h"
 
 class QPainter;
+class QPainterPath;
 
 namespace vyn {
 
@@ -45,8 +46,9 @@ void PaintSatellites(const SatelliteStage& stage, SatelliteSide side);
 /// that they would be a cloud about it.
 bool IsApartFromBody(const Satellite& satellite, double pixelsPerAu);
 
-/// The line of an orbit, fainter for the small satellites.
-QPen SatelliteOrbitPen(const Frame& frame, const Satellite& satellite);
+/// Draws the line of an orbit, fainter for the small satellites.
+void StrokeSatelliteOrbit(QPainter& painter, const QPainterPath& line, const Frame& frame,
+                          const Satellite& satellite);
 
 /// As many points as an orbit of that size needs to look round.
 int OrbitPointCount(const Satellite& satellite, double pixelsPerAu);

@@ -1,4 +1,4 @@
-// Paints the Sun, the Moon, the planets and the comets of the sky view.
+// Paints the Sun, the Moon, the planets with their satellites, and the comets of the sky view.
 #pragma once
 
 namespace vyn {

@@ -1,5 +1,7 @@
 #include "host/sky_canvas.h"
 
+#include "host/vector_registers.h"
+
 namespace vyn {
 
 /// Horizontal longitudes run against the azimuth.
@@ -35,6 +37,7 @@ void SkyCanvas::Stroke(const QPainterPath& path, const QPen& pen) {
   painter.setBrush(Qt::NoBrush);
   painter.setPen(pen);
   painter.drawPath(path);
+  ClearVectorRegisters();
 }
 
 }  // namespace vyn

@@ -34,7 +34,7 @@ void PaintOrbit(SkyCanvas& canvas, SkyBody body, const QColor& color) {
   for (const Vector3& place : OrbitPolyline(OrbitOf(body, scene.jdTt), kPoints, kFarthestAu)) {
     line.To(canvas.At(place + origin));
   }
-  canvas.Stroke(line.Path(), QPen(color, 1.1));
+  canvas.Stroke(line.Path(), QPen(color, kOrbitLinePixels));
 }
 
 /// What is straight in space is an arc in the picture.

@@ -1,4 +1,5 @@
-// Paints what is computed rather than seen in the sky view: orbits, shadows, Lagrangian points.
+// Paints what is computed rather than seen in the sky view: orbits, motion, shadows,
+// Lagrangian points.
 #pragma once
 
 namespace vyn {

@@ -26,7 +26,7 @@ void PaintOrbit(SkyCanvas& canvas, const SatelliteDisplay& display) {
            OrbitPointCount(display.Facts(), pixelsPerAu))) {
     line.To(canvas.At(body.seen + place));
   }
-  canvas.Stroke(line.Path(), SatelliteOrbitPen(canvas.frame, display.Facts()));
+  StrokeSatelliteOrbit(canvas.painter, line.Path(), canvas.frame, display.Facts());
 }
 
 }  // namespace

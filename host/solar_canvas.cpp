@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "host/vector_registers.h"
+
 namespace vyn {
 
 SolarCanvas::SolarCanvas(QPainter& painter, const Frame& frame)
@@ -21,6 +23,7 @@ void SolarCanvas::Stroke(const QPainterPath& path, const QPen& pen) {
   painter.setBrush(Qt::NoBrush);
   painter.setPen(pen);
   painter.drawPath(path);
+  ClearVectorRegisters();
 }
 
 double SolarCanvas::PixelsAtTarget(double lengthAu) const {

@@ -62,7 +62,7 @@ void PaintOrbit(SolarCanvas& canvas, SkyBody body) {
   const Vector3 place = scene.Of(body).heliocentric - center;
   std::vector<Vector3> points = OrbitThrough(OrbitOf(body, scene.jdTt), place);
   for (Vector3& point : points) point = point + center;
-  canvas.Stroke(SpaceLine(canvas.camera, points), QPen(OrbitColor(body), 1.1));
+  canvas.Stroke(SpaceLine(canvas.camera, points), QPen(OrbitColor(body), kOrbitLinePixels));
 }
 
 void PaintPerpendiculars(SolarCanvas& canvas, SkyBody body) {

@@ -1,4 +1,5 @@
-// Paints the lines of the solar system's view: the grid of the ecliptic, orbits, Lagrangian points.
+// Paints the lines of the solar system's view: the grid of the ecliptic, orbits, motion, Lagrangian
+// points.
 #pragma once
 
 namespace vyn {

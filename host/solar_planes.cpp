@@ -6,6 +6,7 @@
 
 #include "host/line_builder.h"
 #include "host/solar_canvas.h"
+#include "host/vector_registers.h"
 #include "siblings/astro/angles.h"
 
 namespace vyn {
@@ -48,6 +49,7 @@ void Fill(SolarCanvas& canvas, const Area& area, const QColor& color) {
   canvas.painter.setPen(Qt::NoPen);
   canvas.painter.setBrush(color);
   canvas.painter.drawPolygon(polygon);
+  ClearVectorRegisters();
 }
 
 /// The place on an orbit at this angle from perihelion, seen from the Sun.

@@ -18,7 +18,8 @@ void PaintOrbit(SolarCanvas& canvas, const SatelliteDisplay& display) {
   std::vector<Vector3> points = SatelliteOrbitPolyline(
       display.primary, display.number, scene.jdTt, OrbitPointCount(display.Facts(), pixelsPerAu));
   for (Vector3& point : points) point = point + center;
-  canvas.Stroke(SpaceLine(canvas.camera, points), SatelliteOrbitPen(canvas.frame, display.Facts()));
+  StrokeSatelliteOrbit(canvas.painter, SpaceLine(canvas.camera, points), canvas.frame,
+                       display.Facts());
 }
 
 }  // namespace

@@ -56,8 +56,18 @@ TemplateItem wide(TemplateItem item, int widthChars) {
   return item;
 }
 
+TemplateItem tall(TemplateItem item, int heightRows) {
+  item.heightRows = heightRows;
+  return item;
+}
+
 TemplateItem tight(TemplateItem item) {
   item.tight = true;
+  return item;
+}
+
+TemplateItem named(TemplateItem item, const char16_t* accessibleName) {
+  item.accessibleName = QString::fromUtf16(accessibleName);
   return item;
 }
 

@@ -44,10 +44,12 @@ struct TemplateItem {
   QString text;
   std::vector<TemplateItem> children;
   int widthChars = 0;     ///< edits and lists: width in average characters of the font
+  int heightRows = 0;     ///< lists: rows that are seen without scrolling
   bool indented = false;  ///< moved right by the width of a check mark
   bool hidden = false;
   bool readOnly = false;
   bool tight = false;      ///< an arrangement without gaps
+  bool form = false;       ///< a grid whose columns begin at the left instead of being centred
   bool compact = false;    ///< a button no wider than its text needs
   bool titled = false;     ///< a group whose first child, a check box, stands in its title
   QString accessibleName;  ///< for a control without a text or label of its own
@@ -93,6 +95,13 @@ template <class... Items>
 TemplateItem grid(Items... items) {
   return arranged(ControlKind::Grid, std::move(items)...);
 }
+/// A grid of labels and what they name, each column beginning at the left.
+template <class... Items>
+TemplateItem form(Items... items) {
+  TemplateItem item = grid(std::move(items)...);
+  item.form = true;
+  return item;
+}
 template <class... Items>
 TemplateItem group(int id, const char16_t* text, Items... items) {
   TemplateItem item = column(std::move(items)...);
@@ -116,7 +125,11 @@ TemplateItem scrollBarSpace();
 TemplateItem note(const char16_t* text);
 /// Fixes the width; a static's text is then centred in it.
 TemplateItem wide(TemplateItem item, int widthChars);
+/// Fixes the rows of a list that are seen without scrolling.
+TemplateItem tall(TemplateItem item, int heightRows);
 TemplateItem tight(TemplateItem item);
+/// Tells screen readers what a control without a label of its own is.
+TemplateItem named(TemplateItem item, const char16_t* accessibleName);
 TemplateItem indented(TemplateItem item);
 TemplateItem hidden(TemplateItem item);
 TemplateItem readOnly(TemplateItem item);

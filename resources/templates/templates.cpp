@@ -3,7 +3,17 @@
 namespace vyn::templates {
 
 std::vector<DialogTemplate> All() {
-  return {Planet(), DwarfPlanet(), Satellite(), Sun(), Solar(), ZodiacalLight()};
+  return {Planet(),
+          Satellite(),
+          Sun(),
+          DwarfPlanet(),
+          ElementEdit(),
+          ElementImportBlankId(),
+          ElementImportDuplicate(),
+          ElementUpdateDuplicate(),
+          ElementImportProgress(),
+          ZodiacalLight(),
+          Solar()};
 }
 
 }  // namespace vyn::templates

@@ -9,6 +9,11 @@ DialogTemplate Planet();
 DialogTemplate DwarfPlanet();
 DialogTemplate Satellite();
 DialogTemplate Sun();
+DialogTemplate ElementEdit();
+DialogTemplate ElementImportBlankId();
+DialogTemplate ElementImportDuplicate();
+DialogTemplate ElementUpdateDuplicate();
+DialogTemplate ElementImportProgress();
 DialogTemplate Solar();
 DialogTemplate ZodiacalLight();
 

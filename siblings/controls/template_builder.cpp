@@ -120,9 +120,11 @@ class Builder {
         Add(cell, child, parent);
         grid->addLayout(cell, row, column);
         // The first column holds the rows' labels, the others are centred under their headings.
-        if (column++ > 0) grid->setAlignment(cell, Qt::AlignHCenter | Qt::AlignVCenter);
+        const auto side = item.form ? Qt::AlignLeft : Qt::AlignHCenter;
+        if (column++ > 0) grid->setAlignment(cell, side | Qt::AlignVCenter);
       }
     }
+    if (item.form) grid->setColumnStretch(grid->columnCount(), 1);
     return grid;
   }
 
@@ -175,7 +177,7 @@ class Builder {
       case ControlKind::Combo:
         return new QComboBox(parent);
       case ControlKind::Progress:
-        return new QProgressBar(parent);
+        return NewProgress(item, parent);
       default:
         qFatal("no widget for the kind of control %d", item.id);
     }
@@ -206,12 +208,21 @@ class Builder {
     return label;
   }
 
+  static QWidget* NewProgress(const TemplateItem& item, QWidget* parent) {
+    auto* bar = new QProgressBar(parent);
+    bar->setRange(0, 100);
+    bar->setMinimumWidth(WidthOf(bar, item.widthChars));
+    return bar;
+  }
+
   template <class List>
   static QWidget* NewList(const TemplateItem& item, QWidget* parent) {
     auto* list = new List(parent);
-    constexpr int kRows = 14;
-    list->setMinimumSize(WidthOf(list, item.widthChars),
-                         kRows * (list->fontMetrics().height() + 6));
+    constexpr int kUsualRows = 14;
+    const int rows = item.heightRows > 0 ? item.heightRows : kUsualRows;
+    const QSize size(WidthOf(list, item.widthChars), rows * (list->fontMetrics().height() + 6));
+    list->setMinimumSize(size);
+    if (item.heightRows > 0) list->setFixedSize(size);
     return list;
   }
 

@@ -1,6 +1,8 @@
 #include "elements/code_page_932.h"
 
 #include <algorithm>
+#include <array>
+#include <vector>
 
 #include <QByteArrayView>
 #include <QStringDecoder>
@@ -30,7 +32,64 @@ bool EndsInHalfCharacter(std::string_view bytes) {
   return position > bytes.size();
 }
 
+/// The code of each UTF-16 unit, 0 for none. It is the decoder's own table turned round: Qt's
+/// encoder writes the code of a private character for what the code page lacks.
+class CodeTable {
+ public:
+  CodeTable() : codes_(0x10000) {
+    // Characters of the vendors' extensions have up to three codes. The standard rows come first,
+    // then row 13, then those from 0xFA on; rows 0xED and 0xEE only repeat them.
+    for (int lead = 0x81; lead <= 0xFC; ++lead) {
+      if (lead != 0xED && lead != 0xEE) AddRow(lead);
+    }
+    for (const int lead : {0xED, 0xEE}) AddRow(lead);
+    for (int code = 0xA1; code <= 0xDF; ++code) codes_[0xFF61 + code - 0xA1] = code;
+    AddLookAlikes();
+  }
+  int CodeOf(QChar c) const { return c.unicode() < 0x80 ? c.unicode() : codes_[c.unicode()]; }
+
+ private:
+  void AddRow(int lead) {
+    if (!IsLeadByte(static_cast<unsigned char>(lead))) return;
+    for (int trail = 0x40; trail <= 0xFC; ++trail) {
+      if (trail != 0x7F) AddCode(lead, trail);
+    }
+  }
+
+  void AddCode(int lead, int trail) {
+    const std::array bytes = {static_cast<char>(lead), static_cast<char>(trail)};
+    const DecodedText decoded = DecodeCodePage932({bytes.data(), bytes.size()});
+    if (!decoded.valid || decoded.text.size() != 1) return;
+    int& code = codes_[decoded.text.front().unicode()];
+    if (code == 0) code = lead << 8 | trail;
+  }
+
+  /// Input methods of other systems write these characters under another number.
+  void AddLookAlikes() {
+    constexpr std::array<std::pair<char16_t, char16_t>, 4> kLookAlikes = {
+        {{0x301C, 0xFF5E}, {0x2016, 0x2225}, {0x2212, 0xFF0D}, {0x2014, 0x2015}}};
+    for (const auto& [other, own] : kLookAlikes) codes_[other] = codes_[own];
+  }
+
+  std::vector<int> codes_;
+};
+
 }  // namespace
+
+QByteArray EncodeCodePage932(QStringView text, qsizetype maxBytes) {
+  static const CodeTable table;
+  QByteArray bytes;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    const bool isPair = text[i].isHighSurrogate() && i + 1 < text.size();
+    const int known = isPair ? 0 : table.CodeOf(text[i]);
+    const int code = known == 0 && !text[i].isNull() ? '?' : known;
+    if (bytes.size() + (code > 0xFF ? 2 : 1) > maxBytes) break;
+    if (code > 0xFF) bytes.append(static_cast<char>(code >> 8));
+    bytes.append(static_cast<char>(code & 0xFF));
+    if (isPair) ++i;
+  }
+  return bytes;
+}
 
 bool IsAscii(std::string_view bytes) {
   unsigned char all = 0;

@@ -2,8 +2,10 @@
 // everywhere.
 #pragma once
 
+#include <limits>
 #include <string_view>
 
+#include <QByteArray>
 #include <QString>
 
 namespace vyn {
@@ -16,6 +18,11 @@ struct DecodedText {
 /// Reads bytes in code page 932. A text that is cut within a double-byte character loses that
 /// character and is not valid.
 DecodedText DecodeCodePage932(std::string_view bytes);
+
+/// Writes text in code page 932, as many whole characters as fit in `maxBytes`. A character that
+/// the code page lacks becomes "?". Decoding gives back every character that the code page has.
+QByteArray EncodeCodePage932(QStringView text,
+                             qsizetype maxBytes = std::numeric_limits<qsizetype>::max());
 
 /// Whether text that is not plain ASCII is well-formed UTF-8, as Japanese text in code page 932
 /// practically never is: what DecodeCodePage932 makes of such bytes is not what was meant.

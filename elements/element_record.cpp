@@ -23,9 +23,12 @@ std::string_view Trimmed(std::string_view text) {
 
 std::string_view CutAtNul(std::string_view text) { return text.substr(0, text.find('\0')); }
 
+/// More than any number field holds.
+constexpr std::size_t kMostCharacters = 11;
+
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// Reads at most 18 digits, which is more than any field holds.
+/// Takes at most kMostCharacters.
 /// Digits over a power of ten, both exact, divide to the nearest double: no general conversion,
 /// which would take most of the time of loading a file, is needed.
 FieldNumber ParseNumber(std::string_view text, bool takesPoint) {
@@ -90,6 +93,16 @@ QString IdentifierOf(std::string_view record) {
 
 FieldNumber ReadNumber(std::string_view record, ElementField field) {
   return ParseNumber(FieldBytes(record, field), FieldOf(field).decimals > 0);
+}
+
+FieldNumber ReadTypedNumber(QStringView text, ElementField field) {
+  const QByteArray bytes = text.toLatin1();
+  const std::string_view typed(bytes.data(), bytes.size());
+  // The record's own numbers may have a plus sign, which takes a column from the digits.
+  const bool writable =
+      !Trimmed(typed).starts_with('+') && Trimmed(typed).size() <= kMostCharacters;
+  if (!writable) return {NumberState::NotANumber};
+  return ParseNumber(typed, FieldOf(field).decimals > 0);
 }
 
 FieldNumber ReadDate(std::string_view record, const DateFields& fields) {

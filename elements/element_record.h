@@ -228,6 +228,10 @@ struct FieldNumber {
 /// decimals, an optional point with digits behind it. An integer field takes no point.
 FieldNumber ReadNumber(std::string_view record, ElementField field);
 
+/// Reads a number as a person types it into a field: blanks at both ends aside, an optional minus
+/// sign, digits and, for a field with decimals, an optional point with digits behind it.
+FieldNumber ReadTypedNumber(QStringView text, ElementField field);
+
 /// Whether a value is within the field's range.
 constexpr bool IsInRange(const RecordField& field, double value) {
   const bool lowerIncluded =

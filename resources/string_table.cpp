@@ -66,6 +66,14 @@ constexpr NumberedText kTexts[] = {
   {13347, u"%sには %s 以上 %s 未満の値を入力してください。"},
   {13348, u"%sには%sより大きく%s以下の値を入力してください。"},
   {13349, u"%sには%sより大きく%s未満の値を入力してください。"},
+  // What the element manager says. %s is the kind's word or a file.
+  {13350, u"軌道要素データが取得できません。"},
+  {13351, u"軌道要素ファイルの修正に失敗しました。"},
+  {13352, u"%sの軌道要素ファイルの設定が正しくないか、ファイルが壊れています。\r\nファイル：%s"},
+  {13353, u"%sの軌道要素ファイルがオープンできません。\r\n%s"},
+  {13354, u"%sデータを読み込めません。ファイルの内容が壊れていないかをご確認ください。\r\n%s"},
+  {13355, u"%sデータが設定されていません。ファイルの内容をご確認ください。\r\n%s"},
+  {13356, u"彗星"}, {13357, u"小惑星"}, {13358, u"不明"},
   // The keys "Dialog\\..." name settings that exist already, so neither the spelling "ZodicalLight"
   // nor the unused 13479 is to be mended.
   {13359, u"Dialog\\Planet"},
@@ -104,6 +112,39 @@ constexpr NumberedText kTexts[] = {
   {13439, u"トリトン"}, {13440, u"海王星I"},
   {13441, u"ネレイド"}, {13442, u"海王星II"},
   {13443, u"カロン"}, {13444, u"冥王星I"},
+  // What the import engine says: about the file that is read,
+  {13445, u"更新元軌道要素データの読み込みオープン(1)に失敗しました。\r\nファイル：%s"},
+  {13446, u"更新元軌道要素データのレコード数が不足しています（%d <= %d）。\r\nファイル：%s"},
+  {13447, u"更新元軌道要素データの読み込みオープン(2)に失敗しました。\r\nファイル：%s"},
+  {13448, u"軌道要素データを読み込むメモリが不足しています。"},
+  {13449, u"更新元軌道要素データのファイル位置%dにシークできません。"},
+  {13450, u"更新元軌道要素データの読み込みができません(1)。"},
+  {13451, u"更新元軌道要素データの読み込みができません(2)。"},
+  {13452, u"更新元軌道要素データの読み込みができません(3)。"},
+  {13453, u"更新元軌道要素データの読み込みができません(4)。"},
+  {13454, u"更新元軌道要素データの読み込みができません(5)。"},
+  // about the file that is changed,
+  {13455, u"更新先軌道要素データのファイル位置%dにシークできません(1)。"},
+  {13456, u"更新先軌道要素データのファイル位置%dにシークできません(2)。"},
+  {13457, u"更新先軌道要素データのファイル位置%dにシークできません(3)。"},
+  {13458, u"更新先軌道要素データのファイル位置%dにシークできません(4)。"},
+  {13459, u"更新先軌道要素データの読み込みオープンに失敗しました(1)。\r\nファイル：%s"},
+  {13460, u"更新先軌道要素データの読み込みオープンに失敗しました(2)。\r\nファイル：%s"},
+  {13461, u"更新先軌道要素データの読み込みオープンに失敗しました(3)。\r\nファイル：%s"},
+  {13462, u"更新先軌道要素データの読み込みができません(1)。"},
+  {13463, u"更新先軌道要素データの読み込みができません(2)。"},
+  {13464, u"更新先軌道要素データの読み込みができません(3)。"},
+  {13465, u"更新先軌道要素データの内容が間違っています。"},
+  {13466, u"更新先軌道要素ファイルへの書き込みに失敗しました(1)。"},
+  // and about its rewriting.
+  {13467, u"ファイル処理位置の設定に誤りがあります。\r\nファイル：%s(pos=%d)"},
+  {13468, u"一時ファイルの書き込みオープンに失敗しました。\r\nファイル：%s"},
+  {13469, u"一時ファイルへのデータの書き込みに失敗しました(1)。"},
+  {13470, u"一時ファイルへのデータの書き込みに失敗しました(2)。"},
+  {13471, u"一時ファイルへのデータの書き込みに失敗しました(3)。"},
+  {13472, u"現在の軌道要素ファイルを削除できません。\r\nファイル：%s"},
+  {13473, u"軌道要素ファイルの名前を変更できません。\r\n一時ファイル：%s\r\n軌道要素ファイル：%s"},
+  {13474, u"この認識符号はすでに使用されています。"},
   {13475, u"Dialog\\PlanetTex"},
   {13478, u"Dialog\\ZodicalLight"},
   {13479, u"Dialog\\Solar"},
@@ -120,6 +161,19 @@ QString LoadString(int number) {
   const auto found = std::ranges::lower_bound(kTexts, number, {}, &NumberedText::number);
   if (found == std::end(kTexts) || found->number != number) return {};
   return QString::fromUtf16(found->text);
+}
+
+QString FilledString(int number, std::initializer_list<QString> values) {
+  QString text = LoadString(number);
+  qsizetype searchFrom = 0;
+  for (const QString& value : values) {
+    const qsizetype percent = text.indexOf(u'%', searchFrom);
+    if (percent < 0) break;
+    text.replace(percent, 2, value);
+    // A value that itself holds a percent sign stays as it is.
+    searchFrom = percent + value.size();
+  }
+  return text;
 }
 
 }  // namespace vyn

@@ -9,6 +9,7 @@
 #include "major_bodies/solar_dialog.h"
 #include "major_bodies/sun_dialog.h"
 #include "major_bodies/zodiacal_light_dialog.h"
+#include "tools/vyn-drive/element_dialogs.h"
 #include "tools/vyn-drive/script.h"
 
 namespace vyn::drive {
@@ -32,6 +33,9 @@ struct DialogClass {
 // parent has a function of its own instead of Make.
 constexpr std::array kClasses = {
     DialogClass{u"CDlgDwarfPlanet", Make<CDlgDwarfPlanet>},
+    DialogClass{u"CDlgElementImportBlankID", MakeBlankIdQuestion},
+    DialogClass{u"CDlgElementImportDuplicate", MakeDuplicateQuestion},
+    DialogClass{u"CDlgElementManEdit", MakeElementEditor},
     DialogClass{u"CDlgPlanet", Make<CDlgPlanet>},
     DialogClass{u"CDlgSat", Make<CDlgSat>},
     DialogClass{u"CDlgSolar", Make<CDlgSolar>},

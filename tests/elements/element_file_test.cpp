@@ -1,0 +1,192 @@
+// Finding, writing, replacing and taking out objects of an element file, to the byte.
+#include "elements/element_file.h"
+
+#include <QDir>
+#include <QProcess>
+
+#include "resources/string_table.h"
+#include "tests/elements/element_case.h"
+
+namespace vyn {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class ElementFileTest : public ElementCase {};
+
+TEST_F(ElementFileTest, CountsAndFindsObjectsAmongOtherLines) {
+  const QByteArray first = MakeRecord('C', u"2P"_s);
+  const QByteArray bytes = MakeRecord('N', {}) + first + MakeRecord('+', u"2P"_s) + "junk\r\n" +
+                           MakeRecord('M', u" 3 "_s) + MakeRecord('C', u"2p"_s);
+  ElementFile file(Write(u"a.eld"_s, bytes));
+  EXPECT_EQ(file.GetObjectCount(), 3);
+  EXPECT_EQ(file.GetFileSeekPosByNumber(0), 417);
+  EXPECT_EQ(file.GetFileSeekPosByNumber(1), 3 * 417 + 6);
+  EXPECT_EQ(file.GetFileSeekPosByNumber(3), -1);
+  EXPECT_EQ(file.GetFileSeekPosByNumber(-1), -1);
+  EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u" 2P ")), 0);
+  EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u"3")), 1);
+  EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u"4")), -1);
+  EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u" ")), -1);
+  EXPECT_EQ(file.CountElementRecords(417), 2);
+  EXPECT_EQ(file.CountElementRecords(0), 1) << "a placeholder passes";
+  EXPECT_EQ(file.CountElementRecords(834), 0);
+  EXPECT_EQ(file.ErrorText(), LoadString(13465));
+  EXPECT_EQ(file.CountElementRecords(418), 0);
+  EXPECT_EQ(file.ErrorText(), FilledString(13456, {u"418"_s}));
+}
+
+/// Lines of the lengths around the longest are counted as readers have always counted them.
+TEST_F(ElementFileTest, ALineLongerThanTheBufferCountsAsSeveral) {
+  for (const int length : {2046, 2047, 2048}) {
+    const QByteArray line = "C" + QByteArray(length - 1, 'C') + "\n";
+    ElementFile file(Write(u"%1.eld"_s.arg(length), line + "M\n"));
+    EXPECT_EQ(file.GetObjectCount(), length < 2047 ? 2 : length == 2047 ? 2 : 3) << length;
+  }
+}
+
+TEST_F(ElementFileTest, IdentifiersAreTheSameWithoutRegardToCaseAndBlanks) {
+  const auto key = [](const QString& text) { return IdentifierKey::OfText(text); };
+  EXPECT_EQ(key(u"abc"_s), key(u"  ABC "_s));
+  EXPECT_EQ(key(u"ｱＢcдΣ"_s), key(u"ｱｂCДσ"_s));
+  EXPECT_NE(key(u"a bc"_s), key(u"abc"_s));
+  EXPECT_EQ(key(u"1234567890123456"_s), key(u"123456789012345"_s)) << "as it would be stored";
+  EXPECT_EQ(IdentifierKey::OfColumns({"2P\0zz", 5}), key(u"2p"_s));
+  EXPECT_TRUE(IdentifierKey::OfLine("C\r\n").IsBlank());
+}
+
+TEST_F(ElementFileTest, ReplacingChangesOnlyTheObjectWhateverItsRecordCount) {
+  const ElementRecords before = MakeObject(u"a"_s, 2);
+  const ElementRecords behind = MakeObject(u"c"_s, 2);
+  for (int oldPages = 1; oldPages <= 3; ++oldPages) {
+    for (int newPages = 1; newPages <= 3; ++newPages) {
+      const QString path =
+          Write(u"a.eld"_s, Joined({before, MakeObject(u"b"_s, oldPages, u"old"_s), behind}));
+      const ElementRecords fresh = MakeObject(u"b2"_s, newPages, u"new"_s);
+      ElementFile file(path);
+      EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u"c")), 2);
+      EXPECT_EQ(file.WriteElement(1, fresh), 1);
+      EXPECT_EQ(Read(u"a.eld"_s), Joined({before, fresh, behind})) << oldPages << newPages;
+      EXPECT_EQ(Files(), QStringList{u"a.eld"_s});
+      // What was learned follows the change.
+      EXPECT_EQ(file.GetFileSeekPosByNumber(2), (2 + newPages) * 417);
+      EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u"B2")), 1);
+      EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u"b")), -1);
+      EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u"c")), 2);
+    }
+  }
+}
+
+TEST_F(ElementFileTest, MakingRoomPutsPlaceholdersAndTakingOutLeavesTheRest) {
+  const QString path =
+      Write(u"a.eld"_s, Joined({MakeObject(u"a"_s, 1), MakeObject(u"b"_s, 3)}) + "tail");
+  const QByteArray placeholder = "N" + QByteArray(414, ' ') + "\r\n";
+  ElementFile file(path);
+  EXPECT_TRUE(file.ShiftElementRecord(417, 2));
+  EXPECT_EQ(Read(u"a.eld"_s), Joined({MakeObject(u"a"_s, 1)}) + placeholder + placeholder +
+                                  Joined({MakeObject(u"b"_s, 3)}) + "tail");
+  EXPECT_EQ(file.GetObjectCount(), 2);
+  EXPECT_TRUE(file.ShiftElementRecord(0, -3));
+  EXPECT_EQ(Read(u"a.eld"_s), Joined({MakeObject(u"b"_s, 3)}) + "tail");
+  EXPECT_FALSE(file.ShiftElementRecord(1, 1));
+  EXPECT_EQ(file.ErrorText(), FilledString(13467, {path, u"1"_s}));
+  EXPECT_FALSE(file.ShiftElementRecord(4 * 417, 1));
+  EXPECT_EQ(file.ErrorText(), LoadString(13463));
+  EXPECT_FALSE(file.ShiftElementRecord(2 * 417, -2));
+  EXPECT_EQ(file.ErrorText(), LoadString(13464));
+  EXPECT_EQ(Read(u"a.eld"_s), Joined({MakeObject(u"b"_s, 3)}) + "tail");
+  EXPECT_EQ(Files(), QStringList{u"a.eld"_s});
+}
+
+TEST_F(ElementFileTest, SeveralObjectsAreTakenOutInOneGo) {
+  std::vector<ElementRecords> objects;
+  for (int i = 0; i < 6; ++i) objects.push_back(MakeObject(QString::number(i), 1 + i % 3));
+  const QString path = Write(u"a.eld"_s, Joined(objects));
+  ElementFile file(path);
+  EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u"5")), 5);
+  EXPECT_TRUE(file.RemoveObjects({4, 0, 3, 3}));
+  EXPECT_EQ(Read(u"a.eld"_s), Joined({objects[1], objects[2], objects[5]}));
+  EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u"5")), 2);
+  EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u"3")), -1);
+  EXPECT_FALSE(file.RemoveObjects({3}));
+}
+
+TEST_F(ElementFileTest, AppendingNeedsAFileThatEndsAtARecord) {
+  const QString path = Write(u"a.eld"_s, {});
+  EXPECT_EQ(ElementFile(path).WriteElement(-1, MakeObject(u"a"_s, 2)), 0);
+  EXPECT_EQ(ElementFile(path).WriteElement(-1, MakeObject(u"b"_s, 1)), 1);
+  EXPECT_EQ(Read(u"a.eld"_s), Joined({MakeObject(u"a"_s, 2), MakeObject(u"b"_s, 1)}));
+  ElementFile torn(Write(u"b.eld"_s, "C"));
+  EXPECT_EQ(torn.WriteElement(-1, MakeObject(u"a"_s, 1)), -1);
+  EXPECT_EQ(torn.ErrorText(), FilledString(13458, {u"0"_s}));
+  EXPECT_EQ(Read(u"b.eld"_s), "C");
+  ElementFile missing(PathOf(u"c.eld"_s));
+  EXPECT_EQ(missing.WriteElement(-1, MakeObject(u"a"_s, 1)), -1);
+  EXPECT_EQ(missing.ErrorText(), FilledString(13461, {PathOf(u"c.eld"_s)}));
+  EXPECT_EQ(missing.WriteElement(0, MakeObject(u"a"_s, 1)), -1);
+  EXPECT_EQ(missing.ErrorText(), FilledString(13455, {u"-1"_s}));
+}
+
+TEST_F(ElementFileTest, AChangeByAnotherProgramIsSeen) {
+  const QString path = Write(u"a.eld"_s, Joined({MakeObject(u"a"_s, 1)}));
+  EXPECT_EQ(ElementFile(path).SearchObjectFileIndex(IdentifierKey::OfText(u"a")), 0);
+  Write(u"a.eld"_s, Joined({MakeObject(u"b"_s, 1), MakeObject(u"a"_s, 1)}));
+  EXPECT_EQ(ElementFile(path).SearchObjectFileIndex(IdentifierKey::OfText(u"a")), 1);
+}
+
+TEST_F(ElementFileTest, AnInterruptedRewritingIsCompleted) {
+  const QByteArray whole = Joined({MakeObject(u"a"_s, 2)});
+  Write(u"a.$$E"_s, whole);
+  ElementFile file(PathOf(u"a.eld"_s));
+  EXPECT_EQ(file.GetObjectCount(), 1);
+  EXPECT_EQ(Files(), QStringList{u"a.eld"_s});
+  EXPECT_EQ(Read(u"a.eld"_s), whole);
+}
+
+TEST_F(ElementFileTest, AHalfWrittenTemporaryFileIsNotTakenForTheFile) {
+  QByteArray unfinished = Joined({MakeObject(u"a"_s, 2)});
+  unfinished[0] = '\0';
+  for (const QByteArray& temporary :
+       {unfinished, QByteArray(), QByteArray("C"), QByteArray(417, 'x')}) {
+    Write(u"a.$$E"_s, temporary);
+    EXPECT_FALSE(ElementFile(PathOf(u"a.eld"_s)).Open());
+    EXPECT_EQ(Read(u"a.$$E"_s), temporary);
+  }
+}
+
+TEST_F(ElementFileTest, ALeftTemporaryFileIsRemovedAndALinkInItsPlaceIsNotFollowed) {
+  const QString path = Write(u"a.eld"_s, Joined({MakeObject(u"a"_s, 1)}));
+  Write(u"a.$$E"_s, "left");
+  EXPECT_EQ(ElementFile(path).GetObjectCount(), 1);
+  EXPECT_EQ(Files(), QStringList{u"a.eld"_s});
+  const QString precious = Write(u"precious"_s, "precious");
+  ASSERT_TRUE(QFile::link(precious, PathOf(u"a.$$E"_s)));
+  EXPECT_TRUE(ElementFile(path).ShiftElementRecord(0, 1));
+  EXPECT_EQ(Read(u"precious"_s), "precious");
+  EXPECT_EQ(Read(u"a.eld"_s).size(), 834);
+}
+
+TEST_F(ElementFileTest, ALinkStaysALink) {
+  ASSERT_TRUE(QDir().mkdir(PathOf(u"real"_s)));
+  Write(u"real/b.eld"_s, Joined({MakeObject(u"a"_s, 1)}));
+  ASSERT_TRUE(QFile::link(PathOf(u"real/b.eld"_s), PathOf(u"a.eld"_s)));
+  EXPECT_EQ(ElementFile(PathOf(u"a.eld"_s)).WriteElement(0, MakeObject(u"a"_s, 3)), 0);
+  EXPECT_TRUE(QFileInfo(PathOf(u"a.eld"_s)).isSymLink());
+  EXPECT_EQ(Read(u"real/b.eld"_s), Joined({MakeObject(u"a"_s, 3)}));
+  // The same when the rewriting was interrupted and the link leads nowhere.
+  QFile::rename(PathOf(u"real/b.eld"_s), PathOf(u"real/b.$$E"_s));
+  EXPECT_EQ(ElementFile(PathOf(u"a.eld"_s)).GetObjectCount(), 1);
+  EXPECT_TRUE(QFileInfo::exists(PathOf(u"real/b.eld"_s)));
+}
+
+TEST_F(ElementFileTest, TheElementFileIsNeverItsOwnTemporaryFile) {
+  const QByteArray bytes = Joined({MakeObject(u"a"_s, 1)});
+  ElementFile file(Write(u"a.$$E"_s, bytes));
+  EXPECT_EQ(file.GetObjectCount(), 1);
+  EXPECT_FALSE(file.ShiftElementRecord(0, 1));
+  EXPECT_EQ(file.ErrorText(), FilledString(13468, {PathOf(u"a.$$E"_s)}));
+  EXPECT_EQ(Read(u"a.$$E"_s), bytes);
+}
+
+}  // namespace
+}  // namespace vyn

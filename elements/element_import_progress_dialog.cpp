@@ -33,6 +33,7 @@ void CDlgElementImportProgress::AttachControls() {
 bool CDlgElementImportProgress::SetProgress(int percent) {
   if (parentWidget() != nullptr && parentWidget()->isEnabled()) {
     parentWidget()->setEnabled(false);
+    setEnabled(true);  // the toolkit disables a window's children, this one too
     holdsParent_ = true;
   }
   static_cast<QProgressBar*>(GetDlgItem(kBar))->setValue(percent);

@@ -43,7 +43,8 @@ struct TemplateItem {
   int id = 0;
   QString text;
   std::vector<TemplateItem> children;
-  int widthChars = 0;     ///< edits and lists: width in average characters of the font
+  int widthChars = 0;     ///< edits and lists: width in average characters of the font; forms:
+                          ///< least width of the labels
   int heightRows = 0;     ///< lists: rows that are seen without scrolling
   bool indented = false;  ///< moved right by the width of a check mark
   bool hidden = false;
@@ -123,7 +124,8 @@ TemplateItem stretch();
 TemplateItem scrollBarSpace();
 /// A text without a number.
 TemplateItem note(const char16_t* text);
-/// Fixes the width; a static's text is then centred in it.
+/// Fixes the width; a static's text is then centred in it. Of a form, the least width of its
+/// labels, so that forms that stand one above the other are aligned.
 TemplateItem wide(TemplateItem item, int widthChars);
 /// Fixes the rows of a list that are seen without scrolling.
 TemplateItem tall(TemplateItem item, int heightRows);

@@ -30,13 +30,19 @@ constexpr DateEdits kValidFrom{
 constexpr DateEdits kValidTo{
     1651, 1652, 1653, u"適用範囲終了年", u"適用範囲終了月", u"適用範囲終了日"};
 
+/// Labels of forms that stand one above the other end at the same place, inside a group and
+/// outside.
+constexpr int kLabelChars = 15;
+constexpr int kInnerLabelChars = 16;
+
 TemplateItem Names() {
   // clang-format off
-  return form(
-    row(label(1600, u"認識符号："), row(edit(1601, 15),
-      label(1602, u"仮符号："), edit(1603, 6), label(1604, u"確定符号："), edit(1605, 10))),
+  return wide(form(
+    row(label(1600, u"認識符号："), row(edit(1601, 15), stretch(),
+      label(1602, u"仮符号："), edit(1603, 6), stretch(),
+      label(1604, u"確定符号："), edit(1605, 10))),
     row(label(1606, u"日本語名(&N)："), edit(1607, 60)),
-    row(label(1608, u"英語名(&E)："), edit(1609, 30)));
+    row(label(1608, u"英語名(&E)："), edit(1609, 30))), kLabelChars);
   // clang-format on
 }
 
@@ -45,12 +51,12 @@ TemplateItem Time() {
   // clang-format off
   return group(1610, u"時刻(&T)：",
     row(radio(1611, u"近日点通過"), radio(1612, u"元期"), stretch()),
-    form(
+    wide(form(
       row(label(1613, u"近日点通過(T)："), row(Year(kPerihelion), label(1680, u"年"),
         Month(kPerihelion), label(1681, u"月"), Day(kPerihelion), label(1682, u"日"))),
       row(label(1617, u"元期(Epoch)："), row(Year(kEpoch), note(u"年"),
         Month(kEpoch), note(u"月"), Day(kEpoch), note(u"日"))),
-      row(label(1621, u"平均近点角(Ｍ)："), row(edit(1622, 11), label(1683, u"°")))));
+      row(label(1621, u"平均近点角(Ｍ)："), row(edit(1622, 11), label(1683, u"°")))), kInnerLabelChars));
   // clang-format on
 }
 
@@ -58,9 +64,9 @@ TemplateItem Distance() {
   // clang-format off
   return group(1623, u"距離(&A)：",
     row(radio(1624, u"近日点距離"), radio(1625, u"軌道長半径"), stretch()),
-    form(
+    wide(form(
       row(label(1626, u"近日点距離(q)："), row(edit(1627, 11), label(1628, u"au"))),
-      row(label(1629, u"軌道長半径(a)："), row(edit(1630, 11), label(1631, u"au")))));
+      row(label(1629, u"軌道長半径(a)："), row(edit(1630, 11), label(1631, u"au")))), kInnerLabelChars));
   // clang-format on
 }
 
@@ -79,12 +85,12 @@ TemplateItem ShapeAndBrightness() {
 
 TemplateItem ValidityAndMemo() {
   // clang-format off
-  return form(
+  return wide(form(
     row(label(1646, u"適用範囲："), row(
       Year(kValidFrom), note(u"年"), Month(kValidFrom), note(u"月"), Day(kValidFrom),
       label(1650, u"日～"),
       Year(kValidTo), note(u"年"), Month(kValidTo), note(u"月"), Day(kValidTo), note(u"日"))),
-    row(label(1654, u"メモ："), edit(1655, 60)));
+    row(label(1654, u"メモ："), edit(1655, 60))), kLabelChars);
   // clang-format on
 }
 
@@ -100,9 +106,9 @@ TemplateItem Tail() {
 
 TemplateItem Pages() {
   // clang-format off
-  return row(label(1668, u"ページ(&P)："),
-    tall(wide(control(ControlKind::List, 1669), 10), 4),
-    column(button(1670, u"追加"), button(1671, u"削除"), stretch()));
+  return column(label(1668, u"ページ(&P)："),
+    row(tall(wide(control(ControlKind::List, 1669), 10), 4),
+      column(button(1670, u"追加"), button(1671, u"削除"), stretch())));
   // clang-format on
 }
 

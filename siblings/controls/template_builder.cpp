@@ -41,12 +41,13 @@ class GroupFrame final : public QWidget {
     option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
     const QRect inner =
         style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, box_);
-    constexpr int kPadding = 6;
     layout()->setContentsMargins(inner.left() + kPadding, inner.top() + kPadding,
                                  400 - inner.right() + kPadding, 400 - inner.bottom() + kPadding);
-    const QWidget* title = titleControl_ != nullptr ? titleControl_ : box_;
-    setMinimumWidth(title->sizeHint().width() + 2 * kPadding);
   }
+
+  // A minimum width of its own would replace that of its contents.
+  QSize sizeHint() const override { return WideEnoughForTitle(QWidget::sizeHint()); }
+  QSize minimumSizeHint() const override { return WideEnoughForTitle(QWidget::minimumSizeHint()); }
 
  protected:
   void resizeEvent(QResizeEvent* event) override {
@@ -55,6 +56,13 @@ class GroupFrame final : public QWidget {
   }
 
  private:
+  static constexpr int kPadding = 6;
+
+  QSize WideEnoughForTitle(QSize contents) const {
+    const QWidget* title = titleControl_ != nullptr ? titleControl_ : box_;
+    return contents.expandedTo({title->sizeHint().width() + 2 * kPadding, 0});
+  }
+
   CVynGroupBox* box_;
   QWidget* titleControl_ = nullptr;
 };
@@ -124,8 +132,14 @@ class Builder {
         if (column++ > 0) grid->setAlignment(cell, side | Qt::AlignVCenter);
       }
     }
-    if (item.form) grid->setColumnStretch(grid->columnCount(), 1);
+    if (item.form) ArrangeAsForm(*grid, item);
     return grid;
+  }
+
+  void ArrangeAsForm(QGridLayout& grid, const TemplateItem& item) {
+    grid.setSpacing(dialog_->style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing));
+    grid.setColumnMinimumWidth(0, WidthOf(dialog_, item.widthChars));
+    grid.setColumnStretch(grid.columnCount(), 1);
   }
 
   QWidget* MakeControl(const TemplateItem& item, QWidget* parent) {

@@ -1,13 +1,7 @@
 // Size and timing of orbits, given in one way and derived in the other.
 #include "elements/orbit_conversion.h"
 
-#include <fstream>
-#include <iterator>
-#include <string>
-
 #include <gtest/gtest.h>
-
-#include "elements/element_page.h"
 
 namespace vyn {
 namespace {
@@ -201,27 +195,6 @@ TEST(OrbitConversion, BadTextsDoNoHarm) {
     TToEpoch(input);
     EXPECT_FALSE(DateOf(input, kPerihelionDate).contains(u"na"));
   }
-}
-
-std::string FileText(const char* path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
-TEST(ElementPage, RealCometsAreStoredAsTheyWereRead) {
-  const std::string file = FileText(VYN_DATA_DIR "/comets.eld");
-  int stored = 0;
-  for (std::size_t at = 0; at < file.size(); at += kElementRecordSize) {
-    const QByteArray record(file.data() + at, kElementRecordSize);
-    SCOPED_TRACE(record.left(60).toStdString());
-    QByteArray after = record;
-    const auto problem =
-        StorePage(ReadPage(record, true), after, [](const QString&) { return false; });
-    EXPECT_FALSE(problem) << problem->message.toStdString();
-    EXPECT_EQ(after, record);
-    if (!problem) ++stored;
-  }
-  EXPECT_EQ(stored, 1687);
 }
 
 }  // namespace

@@ -67,6 +67,20 @@ TEST(ElementImportProgress, GivesTheParentBackWhenARunBreaksOff) {
   EXPECT_TRUE(parent.isEnabled());
 }
 
+TEST(ElementImportDuplicate, CanBeAnsweredWhileTheRunDisablesItsParent) {
+  QWidget parent;
+  CDlgElementImportProgress progress(kImportingCaption, &parent);
+  ASSERT_TRUE(progress.Create());
+  progress.SetProgress(10);
+  CDlgElementImportDuplicate question(CDlgElementImportDuplicate::kImportTemplate, &parent);
+  QTimer::singleShot(0, &question, [&] {
+    Click(question, 1928);
+    Click(question, kOkButton);
+  });
+  EXPECT_EQ(question.DoModal(), kOkButton);
+  EXPECT_EQ(question.Choice(), 2);
+}
+
 TEST(ElementImportDuplicate, StartsAnewAtEveryOpening) {
   CDlgElementImportDuplicate question(CDlgElementImportDuplicate::kUpdateTemplate, nullptr);
   for (const int radio : {1929, 1926}) {

@@ -69,8 +69,12 @@ bool ElementFile::Open() {
     if (!isOpen) return false;
     const auto named = DiskFile::IdentityOf(path_);
     // While this process waited, another one put a rewritten file in its place.
-    if (!named || !named->IsSameFile(file_.Identity().value_or(FileIdentity{}))) file_.Close();
-    if (file_.IsOpen()) RemoveLeftTemporary(path_);
+    if (!named || !named->IsSameFile(file_.OpenedIdentity())) {
+      file_.Close();
+      continue;
+    }
+    identity_ = *named;
+    RemoveLeftTemporary(path_);
   }
   return true;
 }
@@ -83,10 +87,14 @@ void ElementFile::Release() {
 void ElementFile::ForgetKnowledge() {
   if (knowledge_) knowledge_->Forget();
   knowledge_.reset();
+  if (file_.IsOpen()) identity_ = file_.Identity().value_or(FileIdentity{});
 }
 
 ElementKnowledge* ElementFile::Knowledge() {
-  if (!knowledge_ && Open()) knowledge_ = ElementKnowledge::Of(file_);
+  if (!knowledge_ && Open()) {
+    knowledge_ =
+        ElementKnowledge::Of(file_, identity_, ElementKnowledge::Wanted::PositionsAndIdentifiers);
+  }
   return knowledge_.get();
 }
 

@@ -79,6 +79,7 @@ class ElementFile {
 
   QString path_;
   DiskFile file_;
+  FileIdentity identity_;  ///< of the open file before this operation changed it
   bool isWritable_ = false;
   bool isGone_ =
       false;  ///< this operation has deleted the file and could not put the new one there

@@ -40,6 +40,31 @@ void BlankIdentifier(ElementRecords& records) {
 
 }  // namespace
 
+/// Most objects have one record: what is read with it tells that the next one continues nothing.
+class ElementImporter::RecordWindow {
+ public:
+  explicit RecordWindow(const DiskFile& file) : file_(file) {}
+
+  /// The bytes from a position on, as many as a record may have or the file still has. Nothing
+  /// when they cannot be read.
+  std::optional<std::string_view> At(std::int64_t position) {
+    const bool isInside = position >= begin_ && position + kElementRecordSize <= begin_ + count_;
+    if (!isInside) {
+      begin_ = position;
+      count_ = file_.ReadAt(position, bytes_.data(), static_cast<std::int64_t>(bytes_.size()));
+    }
+    if (count_ < 0) return std::nullopt;
+    return std::string_view(bytes_.data(), static_cast<std::size_t>(count_))
+        .substr(static_cast<std::size_t>(position - begin_), kElementRecordSize);
+  }
+
+ private:
+  const DiskFile& file_;
+  std::array<char, 2 * kElementRecordSize> bytes_;
+  std::int64_t begin_ = 0;
+  std::int64_t count_ = 0;
+};
+
 ElementImporter::ElementImporter(const QString& target, ImportDecisions& decisions)
     : target_(target), decisions_(decisions) {}
 
@@ -80,10 +105,11 @@ bool ElementImporter::ReadImportElements(const QString& source, std::int64_t pos
                                          ElementRecords& records) {
   DiskFile file;
   if (!file.Open(source, DiskFile::Mode::Read)) return Fail(13447, {source});
+  RecordWindow window(file);
   try {
     QByteArray record;
     for (;;) {
-      const int consumed = ReadElement(file, position, record);
+      const int consumed = ReadElement(window, position, record);
       if (consumed <= 0) break;
       const bool belongs = records.empty() || KindOf(ViewOf(record)) == RecordKind::Continuation;
       if (!belongs) return true;
@@ -101,14 +127,13 @@ bool ElementImporter::ReadImportElements(const QString& source, std::int64_t pos
 
 /// Returns the bytes of the line, 0 when there is none left, -1 on failure. `record` holds the
 /// record that was read before, if any, and takes the new one.
-int ElementImporter::ReadElement(const DiskFile& file, std::int64_t position, QByteArray& record) {
-  std::array<char, kElementRecordSize> bytes;
-  const std::int64_t count = file.ReadAt(position, bytes.data(), bytes.size());
-  if (count < 0) {
+int ElementImporter::ReadElement(RecordWindow& window, std::int64_t position, QByteArray& record) {
+  const auto bytes = window.At(position);
+  if (!bytes) {
     Fail(13449, {QString::number(position)});
     return -1;
   }
-  const PaddedRecord read = ReadPaddedRecord({bytes.data(), static_cast<std::size_t>(count)});
+  const PaddedRecord read = ReadPaddedRecord(*bytes);
   constexpr int kMalformed = 5;
   // The box shows where the reading was when it met the malformed record.
   if (read.failedStep == kMalformed) decisions_.ShowPlain(DecodeCodePage932(ViewOf(record)).text);
@@ -143,7 +168,8 @@ bool ElementImporter::FindInTarget(Candidate& candidate) {
 }
 
 bool ElementImporter::GetFirstElementRecord(int object, QByteArray& record) {
-  return ReadElement(target_.File(), target_.GetFileSeekPosByNumber(object), record) > 0;
+  RecordWindow window(target_.File());
+  return ReadElement(window, target_.GetFileSeekPosByNumber(object), record) > 0;
 }
 
 int ElementImporter::ImportBlankIdRecord(Candidate& candidate, int* flags) {

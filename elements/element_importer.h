@@ -78,9 +78,11 @@ class ElementImporter {
   const QString& ErrorText() const { return errorText_; }
 
  private:
+  class RecordWindow;
+
   std::int64_t ImportRecordSeekPos(const QString& source, int object);
   bool ReadImportElements(const QString& source, std::int64_t position, ElementRecords& records);
-  int ReadElement(const DiskFile& file, std::int64_t position, QByteArray& record);
+  int ReadElement(RecordWindow& window, std::int64_t position, QByteArray& record);
   bool CheckImportElement(Candidate& candidate);
   bool FindInTarget(Candidate& candidate);
   bool GetFirstElementRecord(int object, QByteArray& record);

@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <future>
+#include <limits>
+#include <numeric>
+#include <thread>
 
 #include "elements/element_record.h"
 #include "elements/line_scan.h"
@@ -29,49 +33,114 @@ void KeepFirst(const std::shared_ptr<ElementKnowledge>& knowledge) {
 /// An import adds objects one by one; growing a large table would need it twice for a moment.
 std::size_t WithRoomToGrow(std::size_t count) { return count + count / 4 + 1; }
 
+/// Where a line begins at a position or behind it: past the next line's end, but for the first.
+std::int64_t NextLine(const DiskFile& file, std::int64_t position) {
+  if (position == 0) return 0;
+  ForEachLine(file, position, [&position](std::int64_t at, std::string_view line) {
+    position = at + static_cast<std::int64_t>(line.size());
+    return !line.ends_with('\n');
+  });
+  return position;
+}
+
+/// Reads a file with one reader for each processor, where it is large enough to be worth it.
+/// `action(reader, position, line)` is called at the same time for different readers, whose parts
+/// follow one another in the file; `prepare(readers)` is called before. False when the file cannot
+/// be read.
+template <class Prepare, class Action>
+bool ForEachLineAtOnce(const DiskFile& file, std::int64_t size, Prepare prepare, Action action) {
+  constexpr std::int64_t kWorthAReader = 1 << 25;
+  const auto readers = std::clamp<std::int64_t>(size / kWorthAReader, 1,
+                                                std::max(1u, std::thread::hardware_concurrency()));
+  prepare(static_cast<std::size_t>(readers));
+  std::vector<std::int64_t> begins;
+  for (std::int64_t i = 0; i < readers; ++i) begins.push_back(NextLine(file, size / readers * i));
+  begins.push_back(std::numeric_limits<std::int64_t>::max());
+  const auto readPart = [&](std::int64_t reader) {
+    return ForEachLine(file, begins[reader], [&](std::int64_t position, std::string_view line) {
+      if (position >= begins[reader + 1]) return false;
+      action(static_cast<std::size_t>(reader), position, line);
+      return true;
+    });
+  };
+  std::vector<std::future<bool>> parts;
+  for (std::int64_t i = 1; i < readers; ++i) {
+    parts.push_back(std::async(std::launch::async, readPart, i));
+  }
+  bool isRead = readPart(0);
+  for (auto& part : parts) isRead = part.get() && isRead;
+  return isRead;
+}
+
+/// Puts the parts one behind the other, with room for more.
+template <class Value>
+void Join(std::vector<std::vector<Value>>& parts, std::vector<Value>& whole) {
+  std::size_t count = 0;
+  for (const auto& part : parts) count += part.size();
+  whole.clear();
+  whole.reserve(WithRoomToGrow(count));
+  for (auto& part : parts) {
+    whole.insert(whole.end(), part.begin(), part.end());
+    std::vector<Value>().swap(part);
+  }
+}
+
 }  // namespace
 
-std::shared_ptr<ElementKnowledge> ElementKnowledge::Of(const DiskFile& file) {
-  const std::optional<FileIdentity> identity = file.Identity();
-  if (!identity) return nullptr;
+std::shared_ptr<ElementKnowledge> ElementKnowledge::Of(const DiskFile& file,
+                                                       const FileIdentity& now, Wanted wanted) {
   for (const auto& known : Kept()) {
-    if (!known || known->identity_ != *identity) continue;
+    if (!known || known->identity_ != now) continue;
     const auto found = known;
     KeepFirst(found);
     return found;
   }
   auto knowledge = std::make_shared<ElementKnowledge>();
-  knowledge->identity_ = *identity;
-  if (!knowledge->ReadPositions(file)) return nullptr;
+  knowledge->identity_ = now;
+  if (!knowledge->Read(file, wanted)) return nullptr;
   KeepFirst(knowledge);
   return knowledge;
 }
 
 int ElementKnowledge::CountObjects(const DiskFile& file) {
-  int count = 0;
-  const bool isRead = ForEachLine(file, 0, [&count](std::int64_t, std::string_view line) {
-    count += BeginsObject(line) ? 1 : 0;
-    return true;
-  });
-  return isRead ? count : -1;
+  std::vector<int> counts;
+  const bool isRead = ForEachLineAtOnce(
+      file, file.OpenedIdentity().size, [&](std::size_t readers) { counts.resize(readers); },
+      [&](std::size_t reader, std::int64_t, std::string_view line) {
+        if (BeginsObject(line)) ++counts[reader];
+      });
+  return isRead ? std::accumulate(counts.begin(), counts.end(), 0) : -1;
 }
 
-bool ElementKnowledge::ReadPositions(const DiskFile& file) {
-  positions_.reserve(WithRoomToGrow(identity_.size / kElementRecordSize));
-  return ForEachLine(file, 0, [this](std::int64_t position, std::string_view line) {
-    if (BeginsObject(line)) positions_.push_back(position);
-    return true;
-  });
+bool ElementKnowledge::Read(const DiskFile& file, Wanted wanted) {
+  std::vector<std::vector<std::int64_t>> positions;
+  std::vector<std::vector<IdentifierKey>> keys;
+  const bool wantsKeys = wanted == Wanted::PositionsAndIdentifiers;
+  const auto prepare = [&](std::size_t readers) {
+    const std::size_t expected = identity_.size / kElementRecordSize / readers + 1;
+    positions.resize(readers);
+    keys.resize(readers);
+    for (auto& part : positions) part.reserve(expected);
+    for (auto& part : keys) part.reserve(wantsKeys ? expected : 0);
+  };
+  const auto learn = [&](std::size_t reader, std::int64_t position, std::string_view line) {
+    if (!BeginsObject(line)) return;
+    positions[reader].push_back(position);
+    if (wantsKeys) keys[reader].push_back(IdentifierKey::OfLine(line));
+  };
+  if (!ForEachLineAtOnce(file, identity_.size, prepare, learn)) return false;
+  Join(positions, positions_);
+  if (wantsKeys) Join(keys, keys_);
+  hasKeys_ = wantsKeys;
+  return true;
 }
 
 bool ElementKnowledge::ReadKeys(const DiskFile& file) {
-  keys_.clear();
-  keys_.reserve(WithRoomToGrow(positions_.size()));
-  const bool isRead = ForEachLine(file, 0, [this](std::int64_t, std::string_view line) {
-    if (BeginsObject(line)) keys_.push_back(IdentifierKey::OfLine(line));
-    return true;
-  });
-  return isRead && keys_.size() == positions_.size();
+  ElementKnowledge fresh;
+  fresh.identity_ = identity_;
+  const bool isRead = fresh.Read(file, Wanted::PositionsAndIdentifiers);
+  if (isRead && fresh.positions_ == positions_) keys_ = std::move(fresh.keys_);
+  return keys_.size() == positions_.size();
 }
 
 std::int64_t ElementKnowledge::PositionOf(int object) const {

@@ -16,9 +16,17 @@ namespace vyn {
 /// Objects are numbered from 0 in file order. Not to be used from several threads.
 class ElementKnowledge {
  public:
+  enum class Wanted { Positions, PositionsAndIdentifiers };
+
   /// What is known of an open file: what was learned before when the file is as it was then (same
-  /// file, size and time of change), else what one reading tells. Null when it cannot be read.
-  static std::shared_ptr<ElementKnowledge> Of(const DiskFile& file);
+  /// file, size and time of change), else what one reading tells. `now` is how the file is now.
+  /// Null when it cannot be read.
+  static std::shared_ptr<ElementKnowledge> Of(const DiskFile& file, const FileIdentity& now,
+                                              Wanted wanted);
+  /// The same of a file that was just opened, where only positions are wanted.
+  static std::shared_ptr<ElementKnowledge> Of(const DiskFile& file) {
+    return Of(file, file.OpenedIdentity(), Wanted::Positions);
+  }
 
   /// The number of objects in a file, without learning anything else; -1 when it cannot be read.
   static int CountObjects(const DiskFile& file);
@@ -26,8 +34,8 @@ class ElementKnowledge {
   int ObjectCount() const { return static_cast<int>(positions_.size()); }
   /// Where the object's first record begins, in bytes; -1 when there is no such object.
   std::int64_t PositionOf(int object) const;
-  /// The first object with this identifier, which must not be blank; -1 for none. The first call
-  /// reads the identifiers of the whole file.
+  /// The first object with this identifier, which must not be blank; -1 for none. Where identifiers
+  /// were not wanted before, the first call reads those of the whole file.
   int Find(const DiskFile& file, const IdentifierKey& key);
 
   // The file was changed by its owner, who keeps what is known true to it.
@@ -45,7 +53,7 @@ class ElementKnowledge {
  private:
   static constexpr std::uint32_t kNoObject = 0xFFFFFFFF;
 
-  bool ReadPositions(const DiskFile& file);
+  bool Read(const DiskFile& file, Wanted wanted);
   bool ReadKeys(const DiskFile& file);
   void BuildTable();
   void Insert(std::uint32_t object);

@@ -121,7 +121,7 @@ int CElementMan::CheckElementFile(const QString& path) {
   }
   DiskFile file;
   const bool isOpen = file.Open(path, DiskFile::Mode::Read);
-  const bool isEmpty = isOpen && file.Identity().value_or(FileIdentity{}).size == 0;
+  const bool isEmpty = isOpen && file.OpenedIdentity().size == 0;
   const int message = !isOpen ? 13353 : isEmpty ? 13355 : 13354;
   ShowMessage(QMessageBox::Warning, FilledString(message, {kindName, path}));
   return isEmpty ? 1 : 0;

@@ -36,9 +36,11 @@ class DiskFile {
 
   DiskFile() = default;
   ~DiskFile() { Close(); }
-  DiskFile(DiskFile&& other) noexcept : handle_(std::exchange(other.handle_, kClosed)) {}
+  DiskFile(DiskFile&& other) noexcept
+      : handle_(std::exchange(other.handle_, kClosed)), opened_(other.opened_) {}
   DiskFile& operator=(DiskFile&& other) noexcept {
     std::swap(handle_, other.handle_);
+    std::swap(opened_, other.opened_);
     return *this;
   }
 
@@ -61,6 +63,8 @@ class DiskFile {
   bool Lock(int timeoutMs);
 
   std::optional<FileIdentity> Identity() const;
+  /// What Identity() was when the file was opened.
+  const FileIdentity& OpenedIdentity() const { return opened_; }
   static std::optional<FileIdentity> IdentityOf(const QString& path);
 
  private:
@@ -68,6 +72,7 @@ class DiskFile {
   bool TryLock();
 
   std::intptr_t handle_ = kClosed;
+  FileIdentity opened_;
 };
 
 /// Whether there is anything with this name, a link without its target too.

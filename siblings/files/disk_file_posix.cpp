@@ -60,6 +60,7 @@ bool DiskFile::Open(const QString& path, Mode mode) {
   const bool isFile =
       IsOpen() && ::fstat(static_cast<int>(handle_), &status) == 0 && S_ISREG(status.st_mode);
   if (!isFile) Close();
+  if (isFile) opened_ = IdentityFrom(status);
   return isFile;
 }
 

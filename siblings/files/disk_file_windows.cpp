@@ -43,9 +43,10 @@ bool DiskFile::Open(const QString& path, Mode mode) {
       nullptr, mode == Mode::Create ? OPEN_ALWAYS : OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (handle == INVALID_HANDLE_VALUE) return false;
   handle_ = reinterpret_cast<std::intptr_t>(handle);
-  const bool isFile = ::GetFileType(handle) == FILE_TYPE_DISK;
-  if (!isFile) Close();
-  return isFile;
+  const auto identity = ::GetFileType(handle) == FILE_TYPE_DISK ? Identity() : std::nullopt;
+  if (!identity) Close();
+  opened_ = identity.value_or(FileIdentity{});
+  return identity.has_value();
 }
 
 void DiskFile::Close() {

@@ -53,8 +53,8 @@ void CDataExchange::Int(int id, int& value) {
   if (saving_) value = reply::ToInt(text);
 }
 
-void CDataExchange::DDX_Double(int id, double& value, int maxChars) {
-  QString text = ShortNumberText(value, maxChars);
+void CDataExchange::DDX_Double(int id, double& value, int maxChars, int maxDecimals) {
+  QString text = ShortNumberText(value, maxChars, maxDecimals);
   Text(id, text);
   if (saving_) value = reply::ToDouble(text);
 }

@@ -26,9 +26,9 @@ class VYN_EXPORT CDataExchange {
   void Text(int id, QString& value);
   /// A whole number in an edit; reads by the longest prefix, 0 where there is none.
   void Int(int id, int& value);
-  /// A real number in an edit, shown by the shortest text that keeps its hundredths within
-  /// `maxChars`; reads by the longest prefix, 0.0 where there is none.
-  void DDX_Double(int id, double& value, int maxChars);
+  /// A real number in an edit, shown by the shortest text that keeps its hundredths (or so many
+  /// decimals) within `maxChars`; reads by the longest prefix, 0.0 where there is none.
+  void DDX_Double(int id, double& value, int maxChars, int maxDecimals = 2);
 
  private:
   const ControlSet& controls_;

@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QSlider>
 #include <QVBoxLayout>
 
 #include "core_link/reply.h"
@@ -47,14 +48,18 @@ CVynDialog::CVynDialog(CCorVyn* commandHandle, CCorVyn* secondHandle, int templa
 
 CVynDialog::~CVynDialog() = default;
 
+void CVynDialog::SetCorVyn(CCorVyn* commandHandle, CCorVyn* secondHandle) {
+  commandHandle_ = commandHandle;
+  secondHandle_ = secondHandle;
+}
+
 int CVynDialog::DoModal() {
   if (!Open()) return kCancelButton;
   return exec() == QDialog::Accepted ? kOkButton : kCancelButton;
 }
 
 bool CVynDialog::Create(CCorVyn* commandHandle, CCorVyn* secondHandle, QWidget* parent) {
-  commandHandle_ = commandHandle;
-  secondHandle_ = secondHandle;
+  SetCorVyn(commandHandle, secondHandle);
   if (parent != parentWidget()) setParent(parent, windowFlags());
   if (!Open()) return false;
   show();
@@ -173,6 +178,18 @@ QString CVynDialog::EditText(int id) const {
 void CVynDialog::OnSpin(int id, std::function<void(int)> handler) {
   connect(static_cast<CVynSpinButton*>(GetDlgItem(id)), &CVynSpinButton::deltaPressed, this,
           [handler = std::move(handler)](int delta) { handler(delta); });
+}
+
+void CVynDialog::OnSlid(int id, std::function<void(int)> handler) {
+  connect(static_cast<QSlider*>(GetDlgItem(id)), &QSlider::valueChanged, this,
+          [this, handler = std::move(handler)](int position) {
+            if (!exchanging_) handler(position);
+          });
+}
+
+void CVynDialog::ShowSlider(int id, int position) {
+  const ExchangeGuard guard(exchanging_);
+  static_cast<QSlider*>(GetDlgItem(id))->setValue(position);
 }
 
 void CVynDialog::ShowInformation(const QString& text) {

@@ -28,6 +28,9 @@ class VYN_EXPORT CVynDialog : public QDialog, public CVynDialogBase {
              const QString& registryKey, QWidget* parent);
   ~CVynDialog() override;
 
+  /// Gives a dialog that was constructed with the parent only its core engine, before it opens.
+  void SetCorVyn(CCorVyn* commandHandle, CCorVyn* secondHandle);
+
   /// Opens the dialog and waits until it is closed. Returns 1 for OK and 2 for Cancel.
   int DoModal();
 
@@ -108,6 +111,11 @@ class VYN_EXPORT CVynDialog : public QDialog, public CVynDialogBase {
               });
     }
   }
+
+  /// Calls `handler` with the position when the user moves a slider, but not while it is placed by
+  /// ShowSlider.
+  void OnSlid(int id, std::function<void(int position)> handler);
+  void ShowSlider(int id, int position);
 
   /// Shows a message under the dialog's title with the information icon.
   void ShowInformation(const QString& text);

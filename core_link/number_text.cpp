@@ -2,9 +2,9 @@
 
 namespace vyn {
 
-QString ShortNumberText(double value, int maxChars) {
+QString ShortNumberText(double value, int maxChars, int maxDecimals) {
   QString text;
-  for (int decimals = 2; decimals >= 0; --decimals) {
+  for (int decimals = maxDecimals; decimals >= 0; --decimals) {
     text = QString::number(value, 'f', decimals);
     while (text.contains(QLatin1Char('.')) &&
            (text.endsWith(QLatin1Char('0')) || text.endsWith(QLatin1Char('.')))) {

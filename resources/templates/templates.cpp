@@ -5,6 +5,7 @@ namespace vyn::templates {
 std::vector<DialogTemplate> All() {
   return {Planet(),
           Satellite(),
+          CometTail(),
           Sun(),
           DwarfPlanet(),
           ElementEdit(),

@@ -8,6 +8,7 @@ namespace vyn::templates {
 DialogTemplate Planet();
 DialogTemplate DwarfPlanet();
 DialogTemplate Satellite();
+DialogTemplate CometTail();
 DialogTemplate Sun();
 DialogTemplate ElementEdit();
 DialogTemplate ElementImportBlankId();

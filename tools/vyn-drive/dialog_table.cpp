@@ -9,6 +9,7 @@
 #include "major_bodies/solar_dialog.h"
 #include "major_bodies/sun_dialog.h"
 #include "major_bodies/zodiacal_light_dialog.h"
+#include "small_bodies/comet_tail_dialog.h"
 #include "tools/vyn-drive/element_dialogs.h"
 #include "tools/vyn-drive/script.h"
 
@@ -24,6 +25,15 @@ std::unique_ptr<CVynDialog> Make(const DialogMaking& making, Arguments& words) {
   return std::make_unique<Dialog>(making.commandHandle, making.secondHandle, making.parent);
 }
 
+/// Opened for the comet at a path.
+std::unique_ptr<CVynDialog> MakeCometTail(const DialogMaking& making, Arguments& words) {
+  const QString path = words.Word(u"the comet's path");
+  words.End();
+  auto dialog = std::make_unique<CDlgCometTail>(path, making.parent);
+  dialog->SetCorVyn(making.commandHandle, making.secondHandle);
+  return dialog;
+}
+
 struct DialogClass {
   QStringView name;
   std::unique_ptr<CVynDialog> (*make)(const DialogMaking&, Arguments&);
@@ -32,6 +42,7 @@ struct DialogClass {
 // A new dialog takes one line here. One whose constructor takes more than the handles and the
 // parent has a function of its own instead of Make.
 constexpr std::array kClasses = {
+    DialogClass{u"CDlgCometTail", MakeCometTail},
     DialogClass{u"CDlgDwarfPlanet", Make<CDlgDwarfPlanet>},
     DialogClass{u"CDlgElementImportBlankID", MakeBlankIdQuestion},
     DialogClass{u"CDlgElementImportDuplicate", MakeDuplicateQuestion},

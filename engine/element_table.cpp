@@ -7,7 +7,9 @@
 #include <QFile>
 
 #include "elements/element_record.h"
+#include "elements/element_rewrite.h"
 #include "engine/element_reader.h"
+#include "siblings/files/disk_file.h"
 
 namespace vyn {
 namespace {
@@ -52,7 +54,14 @@ class MappedFile {
     if (file_.isSequential()) return false;
     size_ = file_.size();
     if (size_ > 0) data_ = reinterpret_cast<const char*>(file_.map(0, size_));
+    identity_ = DiskFile::IdentityOf(path);
     return size_ == 0 || data_ != nullptr;
+  }
+  /// Whether the file with this name is the one that lies in memory and has kept its size: what was
+  /// written into it is seen already.
+  bool IsStillWhole() const {
+    const auto now = DiskFile::IdentityOf(file_.fileName());
+    return now && identity_ && now->IsSameFile(*identity_) && now->size == size_;
   }
   std::string_view Bytes() const { return {data_, static_cast<std::size_t>(size_)}; }
   QString Path() const { return file_.fileName(); }
@@ -62,6 +71,7 @@ class MappedFile {
   QFile file_;
   const char* data_ = nullptr;
   qint64 size_ = 0;
+  std::optional<FileIdentity> identity_;
 };
 
 /// Keeps problems in the order of records and joins those of neighbouring records.
@@ -147,9 +157,11 @@ struct ElementTable::Content {
 
   /// Adds the objects whose first record is this one or one behind it.
   void ReadObjectsFrom(int record) {
+    // The last object of before may have got more pages.
+    const int firstChanged = std::max(Count() - 1, 0);
     for (; record < RecordCount(); ++record) ReadNewRecord(record);
     CheckTail();
-    FindObjectsWithPages();
+    FindObjectsWithPages(firstChanged);
   }
 
   void ReadNewRecord(int record) {
@@ -186,9 +198,11 @@ struct ElementTable::Content {
     problems.Add(file->Path(), record, reason);
   }
 
-  void FindObjectsWithPages() {
-    withPages.clear();
-    for (int object = 0; object < Count(); ++object) {
+  void FindObjectsWithPages(int firstObject = 0) {
+    withPages.erase(std::lower_bound(withPages.begin(), withPages.end(),
+                                     static_cast<std::uint32_t>(firstObject)),
+                    withPages.end());
+    for (int object = firstObject; object < Count(); ++object) {
       if (EndOf(object) - static_cast<int>(firstRecords[object]) > 1) withPages.push_back(object);
     }
   }
@@ -227,7 +241,8 @@ ElementTable::~ElementTable() = default;
 bool ElementTable::Load(const QString& path) {
   loadFailure_.clear();
   auto fresh = std::make_unique<Content>();
-  const bool opened = fresh->file->Open(path);
+  const bool opened = fresh->file->Open(path) ||
+                      (CompleteInterruptedRewrite(LinkTarget(path)) && fresh->file->Open(path));
   if (opened) fresh->ReadAll();
   if (fresh->Count() > 0) {
     content_ = std::move(fresh);
@@ -306,6 +321,10 @@ int ElementTable::IndexOf(QStringView identifier) const {
 
 template <typename Change>
 bool ElementTable::ReadChange(Change change) {
+  if (content_->file->IsStillWhole() && change(0)) {
+    loadFailure_.clear();
+    return true;
+  }
   auto file = std::make_unique<MappedFile>();
   if (!file->Open(FilePath())) return false;
   loadFailure_.clear();

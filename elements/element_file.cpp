@@ -180,6 +180,13 @@ bool ElementFile::ReplaceRecords(std::int64_t position, std::int64_t oldCount,
   return true;
 }
 
+bool ElementFile::ReplaceUnchanged(std::int64_t position, const ElementRecords& before,
+                                   const ElementRecords& after) {
+  errorText_.clear();
+  return ReadRecords(position) == before &&
+         ReplaceRecords(position, static_cast<std::int64_t>(before.size()), after);
+}
+
 bool ElementFile::AppendRecords(const ElementRecords& records) {
   if (!OpenForWriting()) return false;
   const std::int64_t end = Size();

@@ -53,6 +53,10 @@ class ElementFile {
 
   /// Writes records over the `oldCount` records, one or more, that begin at a position.
   bool ReplaceRecords(std::int64_t position, std::int64_t oldCount, const ElementRecords& records);
+  /// The same where the records `before` still stand there, as they were read. False without a
+  /// message where they do not.
+  bool ReplaceUnchanged(std::int64_t position, const ElementRecords& before,
+                        const ElementRecords& after);
   bool AppendRecords(const ElementRecords& records);
   /// Takes objects out, whatever their number, in one rewriting.
   bool RemoveObjects(std::vector<int> objects);

@@ -31,13 +31,6 @@ ElementRecords AsEdited(ElementRecords pages) {
   return pages;
 }
 
-/// Writes the pages where `before` still stands; the file may have changed while a person edited.
-bool ReplacePages(ElementFile& file, std::int64_t position, const ElementRecords& before,
-                  const ElementRecords& after) {
-  return file.ReadRecords(position) == before &&
-         file.ReplaceRecords(position, static_cast<std::int64_t>(before.size()), after);
-}
-
 }  // namespace
 
 CElementMan::CElementMan(int cometFlag, CCorVyn* engine, CCorVyn* secondEngine, QWidget* parent)
@@ -86,7 +79,8 @@ int CElementMan::EditObject(int object) {
   if (editor.DoModal() != 1 || editor.Pages() == before) return 0;
   const WaitCursor wait;
   ElementFile file(path);
-  return ReplacePages(file, position, before, AsEdited(editor.Pages())) ? 1 : 0;
+  // The file may have changed while the user edited.
+  return file.ReplaceUnchanged(position, before, AsEdited(editor.Pages())) ? 1 : 0;
 }
 
 int CElementMan::DeleteObject(int object) {

@@ -4,7 +4,7 @@
 packages=(
   build-essential cmake ninja-build pkg-config
   qt6-base-dev qt6-image-formats-plugins libgl-dev liberfa-dev
-  libgtest-dev libbenchmark-dev
+  libgtest-dev libbenchmark-dev strace
   fonts-ipafont-gothic
 )
 

@@ -59,7 +59,8 @@ class DiskFile {
   void TakePermissionsOf(const DiskFile& other);
 
   /// Waits until no other process, and no other open file of this one, holds the lock. It is given
-  /// back when the file is closed, also by a process that dies.
+  /// back when the file is closed, also by a process that dies. Where the file system has no locks
+  /// this does nothing.
   bool Lock(int timeoutMs);
 
   std::optional<FileIdentity> Identity() const;

@@ -111,7 +111,9 @@ void DiskFile::TakePermissionsOf(const DiskFile& other) {
 }
 
 bool DiskFile::TryLock() {
-  return Repeated([&] { return ::flock(static_cast<int>(handle_), LOCK_EX | LOCK_NB); }) == 0;
+  // Where a file system knows no locks, work goes on without.
+  return Repeated([&] { return ::flock(static_cast<int>(handle_), LOCK_EX | LOCK_NB); }) == 0 ||
+         errno != EWOULDBLOCK;
 }
 
 std::optional<FileIdentity> DiskFile::Identity() const {

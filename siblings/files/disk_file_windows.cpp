@@ -96,9 +96,11 @@ bool DiskFile::Sync() { return ::FlushFileBuffers(AsHandle(handle_)) != 0; }
 void DiskFile::TakePermissionsOf(const DiskFile&) {}
 
 bool DiskFile::TryLock() {
+  // Where a file system knows no locks, work goes on without.
   OVERLAPPED place = At(kLockPosition);
   return ::LockFileEx(AsHandle(handle_), LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1,
-                      0, &place) != 0;
+                      0, &place) != 0 ||
+         ::GetLastError() != ERROR_LOCK_VIOLATION;
 }
 
 std::optional<FileIdentity> DiskFile::Identity() const {

@@ -1,7 +1,11 @@
 // The command convert: element files from one-line formats.
-#include <cstdio>
+#include <algorithm>
+#include <array>
+#include <future>
+#include <thread>
+#include <vector>
 
-#include "elements/line_scan.h"
+#include "siblings/files/disk_file.h"
 #include "tools/vyn-eld/command.h"
 #include "tools/vyn-eld/mpc_line.h"
 #include "tools/vyn-eld/output.h"
@@ -33,7 +37,60 @@ std::string_view WithoutLineEnd(std::string_view line) {
   return line;
 }
 
-/// Converts a file line by line into another one.
+/// Some lines and what became of them.
+struct Part {
+  std::string records;
+  struct Refusal {
+    std::int64_t line;  ///< from 1 for the part's first line
+    LineProblem problem;
+  };
+  std::vector<Refusal> refusals;
+  std::int64_t lines = 0;
+  std::int64_t converted = 0;
+};
+
+/// Calls `action` for each line, without its end.
+template <class Action>
+void ForEachLineOf(std::string_view text, Action action) {
+  while (!text.empty()) {
+    const std::size_t length = std::min(text.find('\n'), text.size() - 1) + 1;
+    action(WithoutLineEnd(text.substr(0, length)));
+    text.remove_prefix(length);
+  }
+}
+
+Part ConvertPart(Converter convert, std::string_view text) {
+  Part part;
+  part.records.reserve(text.size() / 150 * kElementRecordSize);
+  RecordBytes record;
+  ForEachLineOf(text, [&](std::string_view line) {
+    ++part.lines;
+    if (IsSeparator(line)) return;
+    if (auto problem = convert(line, record)) {
+      part.refusals.push_back({part.lines, std::move(*problem)});
+    } else {
+      part.records.append(record.data(), record.size());
+      ++part.converted;
+    }
+  });
+  return part;
+}
+
+/// As many pieces as there are processors, cut between lines.
+std::vector<std::string_view> Pieces(std::string_view text) {
+  const std::size_t count = std::max(1u, std::thread::hardware_concurrency());
+  std::vector<std::string_view> pieces;
+  for (std::size_t i = 1; i <= count && !text.empty(); ++i) {
+    const std::size_t wanted = text.size() / (count - i + 1);
+    const std::size_t length =
+        i == count ? text.size() : std::min(text.find('\n', wanted), text.size() - 1) + 1;
+    pieces.push_back(text.substr(0, length));
+    text.remove_prefix(length);
+  }
+  return pieces;
+}
+
+/// Converts a file block by block into another one.
 class Conversion {
  public:
   Conversion(Converter convert, const QString& input, const QString& output)
@@ -41,65 +98,81 @@ class Conversion {
 
   int Run() {
     if (!from_.Open(input_, DiskFile::Mode::Read)) return Fail(input_ + u": cannot be read"_s);
-    const bool isSame =
-        PathIsTaken(output_) &&
-        DiskFile::IdentityOf(output_).value_or(FileIdentity{}).IsSameFile(from_.OpenedIdentity());
-    if (isSame) return Fail(output_ + u": is the input itself"_s);
+    if (IsTheInput(output_)) return Fail(output_ + u": is the input itself"_s);
     if (!to_.Open(temporary_, DiskFile::Mode::Create) || !to_.Truncate(0)) {
       return Fail(output_ + u": cannot be written"_s);
     }
     ProgressBar bar(from_.OpenedIdentity().size);
-    const bool isRead = ForEachLine(from_, 0, [&](std::int64_t position, std::string_view line) {
-      bar.Show(position);
-      Take(line, bar);
-      return isWritten_;
-    });
-    Flush();
+    const bool isRead = ConvertBlocks(bar);
     bar.Clear();
     return Finish(isRead);
   }
 
  private:
-  void Take(std::string_view line, ProgressBar& bar) {
-    // A line that is longer than any is taken in pieces, of which the first tells all.
-    if (isInLine_) {
-      isInLine_ = !line.ends_with('\n');
-      return;
+  bool IsTheInput(const QString& path) const {
+    const auto identity = DiskFile::IdentityOf(path);
+    return identity && identity->IsSameFile(from_.OpenedIdentity());
+  }
+
+  /// While one block is being converted, what came of the one before is written.
+  bool ConvertBlocks(ProgressBar& bar) {
+    constexpr std::int64_t kBlockSize = 1 << 22;
+    std::array<std::vector<char>, 2> blocks{std::vector<char>(kBlockSize),
+                                            std::vector<char>(kBlockSize)};
+    std::vector<std::future<Part>> before;
+    std::int64_t position = 0;
+    std::int64_t count = kBlockSize;
+    for (int i = 0; isWritten_ && count == kBlockSize; ++i) {
+      bar.Show(position);
+      std::vector<char>& block = blocks[i % 2];
+      count = from_.ReadAt(position, block.data(), kBlockSize);
+      if (count < 0) break;
+      std::string_view text(block.data(), static_cast<std::size_t>(count));
+      const std::size_t lastEnd = text.rfind('\n');
+      // What follows the last line's end comes with the next block.
+      if (count == kBlockSize && lastEnd != text.npos) text = text.substr(0, lastEnd + 1);
+      position += static_cast<std::int64_t>(text.size());
+      auto parts = Begin(text);
+      for (auto& part : before) Add(part.get(), bar);
+      before = std::move(parts);
     }
-    isInLine_ = !line.ends_with('\n');
-    ++lineNumber_;
-    line = WithoutLineEnd(line);
-    if (IsSeparator(line)) return;
-    if (!isInElements_) isInElements_ = LooksLikeElements(line);
-    if (!isInElements_) return;
-    RecordBytes record;
-    if (const auto problem = convert_(line, record)) {
+    for (auto& part : before) Add(part.get(), bar);
+    return count >= 0;
+  }
+
+  std::vector<std::future<Part>> Begin(std::string_view text) {
+    if (!isInElements_) text = BehindHeading(text);
+    std::vector<std::future<Part>> parts;
+    for (const std::string_view piece : Pieces(text)) {
+      parts.push_back(std::async(std::launch::async, ConvertPart, convert_, piece));
+    }
+    return parts;
+  }
+
+  /// What is left of a text from the first line of elements on.
+  std::string_view BehindHeading(std::string_view text) {
+    const char* first = text.data() + text.size();
+    ForEachLineOf(text, [&](std::string_view line) {
+      isInElements_ = isInElements_ || LooksLikeElements(line);
+      if (!isInElements_) ++lineNumber_;
+      if (isInElements_) first = std::min(first, line.data());
+    });
+    return text.substr(static_cast<std::size_t>(first - text.data()));
+  }
+
+  void Add(const Part& part, ProgressBar& bar) {
+    for (const Part::Refusal& refusal : part.refusals) {
       bar.Clear();
-      Report(*problem);
-    } else {
-      ++converted_;
-      Add(record);
+      PrintError(u"%1:%2:%3: %4"_s.arg(input_)
+                     .arg(lineNumber_ + refusal.line)
+                     .arg(refusal.problem.column)
+                     .arg(QString::fromStdString(refusal.problem.reason)));
     }
-  }
-
-  void Report(const LineProblem& problem) {
-    ++refused_;
-    PrintError(u"%1:%2:%3: %4"_s.arg(input_)
-                   .arg(lineNumber_)
-                   .arg(problem.column)
-                   .arg(QString::fromStdString(problem.reason)));
-  }
-
-  void Add(const RecordBytes& record) {
-    constexpr std::size_t kWriteAtOnce = 1 << 20;
-    pending_.append(record.data(), record.size());
-    if (pending_.size() >= kWriteAtOnce) Flush();
-  }
-
-  void Flush() {
-    isWritten_ = isWritten_ && to_.WriteAt(writtenTo_, pending_);
-    writtenTo_ += static_cast<std::int64_t>(pending_.size());
-    pending_.clear();
+    refused_ += static_cast<std::int64_t>(part.refusals.size());
+    lineNumber_ += part.lines;
+    converted_ += part.converted;
+    isWritten_ = isWritten_ && to_.WriteAt(writtenTo_, part.records);
+    writtenTo_ += static_cast<std::int64_t>(part.records.size());
   }
 
   /// The output takes its name when it is complete.
@@ -127,12 +200,10 @@ class Conversion {
   const QString temporary_;
   DiskFile from_;
   DiskFile to_;
-  std::string pending_;
   std::int64_t writtenTo_ = 0;
   std::int64_t lineNumber_ = 0;
   std::int64_t converted_ = 0;
   std::int64_t refused_ = 0;
-  bool isInLine_ = false;
   bool isInElements_ = false;
   bool isWritten_ = true;
 };

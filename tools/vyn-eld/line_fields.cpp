@@ -86,9 +86,9 @@ void RecordBuilder::Digits(ElementField number, long long value, int width) {
 void RecordBuilder::Value(ElementField number, double value, LineColumns columns) {
   const RecordField& field = FieldOf(number);
   if (!IsInRange(field, value)) return Note(columns, NameOf(number) + " is out of range");
-  const double scale = std::pow(10.0, field.decimals);
-  const long long scaled = std::llround(value * scale);
-  const long long whole = static_cast<long long>(scale);
+  long long whole = 1;
+  for (int i = 0; i < field.decimals; ++i) whole *= 10;
+  const long long scaled = std::llround(value * static_cast<double>(whole));
   Digits(number, scaled / whole, field.integerWidth);
   char* place = record_.data() + field.offset + field.integerWidth;
   *place = '.';

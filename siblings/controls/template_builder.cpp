@@ -10,6 +10,7 @@
 #include <QStyleOptionGroupBox>
 
 #include "siblings/controls/controls.h"
+#include "siblings/controls/object_list_box.h"
 #include "siblings/controls/satellite_list_box.h"
 
 namespace vyn {
@@ -188,6 +189,8 @@ class Builder {
         return NewList<CVynListBox>(item, parent);
       case ControlKind::SatelliteList:
         return NewList<CSatelliteListBox>(item, parent);
+      case ControlKind::ObjectList:
+        return NewObjectList(item, parent);
       case ControlKind::Combo:
         return new QComboBox(parent);
       case ControlKind::Progress:
@@ -237,6 +240,14 @@ class Builder {
     const QSize size(WidthOf(list, item.widthChars), rows * (list->fontMetrics().height() + 6));
     list->setMinimumSize(size);
     if (item.heightRows > 0) list->setFixedSize(size);
+    return list;
+  }
+
+  /// Its template says how large it comes up; the least size follows from its columns.
+  static QWidget* NewObjectList(const TemplateItem& item, QWidget* parent) {
+    auto* list = new CVynListBoxAObj(parent);
+    const int rowHeight = list->fontMetrics().height() + 6;
+    list->SetPreferredSize({WidthOf(list, item.widthChars), item.heightRows * rowHeight});
     return list;
   }
 

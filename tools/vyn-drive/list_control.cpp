@@ -1,8 +1,11 @@
 #include "tools/vyn-drive/list_control.h"
 
+#include <algorithm>
+
 #include <QAbstractItemView>
 #include <QComboBox>
 
+#include "siblings/controls/object_list_box.h"
 #include "siblings/controls/satellite_list_box.h"
 #include "tools/vyn-drive/input.h"
 #include "tools/vyn-drive/output.h"
@@ -109,6 +112,84 @@ class SatelliteList final : public ListControl {
   CSatelliteListBox& list_;
 };
 
+/// Its cells are named by their column's id.
+class ObjectList final : public ListControl {
+ public:
+  explicit ObjectList(CVynListBoxAObj& list) : list_(list) {}
+
+  int RowCount() const override { return static_cast<int>(list_.GetValueCountTotal()); }
+  int SelectedRow() const override { return static_cast<int>(list_.GetValueSelect()); }
+  QString RowText(int row) const override {
+    for (const tagDataItem& cell : RowCells(row)) {
+      if (!cell.text.isEmpty()) return cell.text;
+    }
+    return {};
+  }
+  void Choose(int row) override { ClickAtPosition(row, TextColumn()); }
+  void ClickCell(int row, int column) override { ClickAtPosition(row, PositionOf(column)); }
+  void DoubleClickCell(int row, int column) override {
+    const int position = PositionOf(column);
+    ShowRow(row);
+    DoubleClickAt(list_, list_.CellRect(row, position).center());
+  }
+  void ClickHeader(int column) override {
+    ClickAt(list_, list_.TitleRect(PositionOf(column)).center());
+  }
+  QStringList Cells(int row) const override {
+    QStringList texts;
+    const std::vector<tagDataItem> cells = RowCells(row);
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+      const bool isText = list_.Columns()[i].kind == ObjectColumnKind::Text;
+      texts += (cells[i].status == kCellDisabled ? u"~"_s : QString()) +
+               (isText ? Quoted(cells[i].text) : QString::number(cells[i].value));
+    }
+    return texts;
+  }
+  QStringList Headers() const override {
+    QStringList titles;
+    for (const tagHeaderDataItem& column : list_.Columns()) titles += column.text;
+    return titles;
+  }
+
+ private:
+  std::vector<tagDataItem> RowCells(int row) const {
+    const tagUpdateInfo batch = list_.AskRows(row, 1);
+    if (batch.rowCount == 0) throw ScriptError{u"no such row: "_s + QString::number(row)};
+    std::vector<tagDataItem> cells;
+    for (qint64 i = 0; i < batch.ColumnCount(); ++i) cells.push_back(batch.Column(i).Cell(0));
+    return cells;
+  }
+
+  int PositionOf(int id) const {
+    const auto found =
+        std::ranges::find(list_.Columns(), static_cast<quint32>(id), &tagHeaderDataItem::id);
+    if (found == list_.Columns().end()) {
+      throw ScriptError{u"no such column: "_s + QString::number(id)};
+    }
+    return static_cast<int>(found - list_.Columns().begin());
+  }
+
+  /// Where a click selects and changes nothing.
+  int TextColumn() const {
+    const auto found =
+        std::ranges::find(list_.Columns(), ObjectColumnKind::Text, &tagHeaderDataItem::kind);
+    if (found == list_.Columns().end()) ThrowHasNo(u"column of texts"_s);
+    return static_cast<int>(found - list_.Columns().begin());
+  }
+
+  void ClickAtPosition(int row, int position) {
+    ShowRow(row);
+    ClickAt(list_, list_.CellRect(row, position).center());
+  }
+
+  void ShowRow(int row) {
+    list_.ScrollTo(row);
+    Settle();
+  }
+
+  CVynListBoxAObj& list_;
+};
+
 }  // namespace
 
 ListControl::~ListControl() = default;
@@ -124,6 +205,9 @@ std::unique_ptr<ListControl> AsList(QWidget& control) {
   if (auto* combo = qobject_cast<QComboBox*>(&control)) return std::make_unique<ComboList>(*combo);
   if (auto* satellites = qobject_cast<CSatelliteListBox*>(&control)) {
     return std::make_unique<SatelliteList>(*satellites);
+  }
+  if (auto* objects = qobject_cast<CVynListBoxAObj*>(&control)) {
+    return std::make_unique<ObjectList>(*objects);
   }
   if (auto* view = qobject_cast<QAbstractItemView*>(&control)) {
     return std::make_unique<ItemList>(*view);

@@ -14,6 +14,8 @@ std::vector<DialogTemplate> All() {
           ElementUpdateDuplicate(),
           ElementImportProgress(),
           ZodiacalLight(),
+          Meteorite(),
+          DustTrail(),
           Solar()};
 }
 

@@ -17,6 +17,8 @@ DialogTemplate ElementUpdateDuplicate();
 DialogTemplate ElementImportProgress();
 DialogTemplate Solar();
 DialogTemplate ZodiacalLight();
+DialogTemplate Meteorite();
+DialogTemplate DustTrail();
 
 std::vector<DialogTemplate> All();
 

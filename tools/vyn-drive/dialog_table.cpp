@@ -10,6 +10,8 @@
 #include "major_bodies/sun_dialog.h"
 #include "major_bodies/zodiacal_light_dialog.h"
 #include "small_bodies/comet_tail_dialog.h"
+#include "small_bodies/dust_trail_dialog.h"
+#include "small_bodies/meteorite_dialog.h"
 #include "tools/vyn-drive/element_dialogs.h"
 #include "tools/vyn-drive/script.h"
 
@@ -43,10 +45,12 @@ struct DialogClass {
 // parent has a function of its own instead of Make.
 constexpr std::array kClasses = {
     DialogClass{u"CDlgCometTail", MakeCometTail},
+    DialogClass{u"CDlgDustTrail", Make<CDlgDustTrail>},
     DialogClass{u"CDlgDwarfPlanet", Make<CDlgDwarfPlanet>},
     DialogClass{u"CDlgElementImportBlankID", MakeBlankIdQuestion},
     DialogClass{u"CDlgElementImportDuplicate", MakeDuplicateQuestion},
     DialogClass{u"CDlgElementManEdit", MakeElementEditor},
+    DialogClass{u"CDlgMeteorite", Make<CDlgMeteorite>},
     DialogClass{u"CDlgPlanet", Make<CDlgPlanet>},
     DialogClass{u"CDlgSat", Make<CDlgSat>},
     DialogClass{u"CDlgSolar", Make<CDlgSolar>},

@@ -29,8 +29,11 @@ constexpr std::array<ObjectText, 4> kObjectTexts{{
 
 }  // namespace
 
-ElementClass::ElementClass(QString classPath)
-    : path_(std::move(classPath)), table_(std::make_unique<ElementTable>()) {}
+ElementClass::ElementClass(QString classPath, ElementKind kind)
+    : path_(std::move(classPath)),
+      kind_(kind),
+      table_(std::make_unique<ElementTable>()),
+      types_(kind) {}
 
 ElementClass::~ElementClass() = default;
 
@@ -42,28 +45,55 @@ int ElementClass::Count() const { return table_->Count(); }
 
 bool ElementClass::Load(const QString& file) {
   if (!table_->Load(file)) return false;
+  types_.ReadAll(*table_);
+  bright_.TableChanged();
   FitSwitches();
   StartSwitches();
   return true;
 }
 
 bool ElementClass::AddObjects() {
+  const int wholeReads = table_->WholeReads();
   if (!IsLoaded() || !table_->DataAdd()) return false;
+  ReadTypes(
+      wholeReads,
+      [](SmallBodyTypes& types, const ElementTable& table, int) { types.ReadNew(table); }, 0);
   FitSwitches();
   return true;
 }
 
 bool ElementClass::UpdateObject(int object) {
+  const int wholeReads = table_->WholeReads();
   if (!table_->DataUpdate(object)) return false;
+  ReadTypes(
+      wholeReads,
+      [](SmallBodyTypes& types, const ElementTable& table, int changed) {
+        types.ReadAgain(table, changed);
+      },
+      object);
   FitSwitches();
   return true;
 }
 
 bool ElementClass::RemoveObject(int object) {
+  const int wholeReads = table_->WholeReads();
   if (!table_->DataRemove(object)) return false;
+  ReadTypes(
+      wholeReads,
+      [](SmallBodyTypes& types, const ElementTable&, int removed) { types.Remove(removed); },
+      object);
   for (SwitchColumn& column : switches_) column.Remove(object);
   FitSwitches();
   return true;
+}
+
+/// Where the table had to read its whole file, so has this.
+void ElementClass::ReadTypes(int wholeReadsBefore,
+                             void (*readChange)(SmallBodyTypes&, const ElementTable&, int),
+                             int object) {
+  bright_.TableChanged();
+  if (table_->WholeReads() != wholeReadsBefore) return types_.ReadAll(*table_);
+  readChange(types_, *table_, object);
 }
 
 /// New objects start where all start.
@@ -85,6 +115,53 @@ void ElementClass::StartSwitches() {
   for (std::size_t i = 0; i < switches_.size(); ++i) {
     switches_[i].Reset(StartText(static_cast<int>(i)));
   }
+}
+
+bool ElementClass::IsWithinMagnitude(int object, const DisplayLimits& limits) const {
+  return vyn::IsWithinMagnitude(*table_, object, limits);
+}
+
+bool ElementClass::IsOfTickedOrbit(int object, const DisplayLimits& limits) const {
+  return (limits.orbitalTypes >> types_.Orbital(object) & 1) != 0;
+}
+
+bool ElementClass::IsOfTickedSpectrum(int object, const DisplayLimits& limits) const {
+  const char letter = types_.Spectral(object);
+  return letter != 0 && (limits.spectralTypes >> (letter - 'A') & 1) != 0;
+}
+
+bool ElementClass::IsShown(int object, const DisplayLimits& limits) const {
+  if (object < 0 || object >= Count()) return false;
+  return switches_[kIndividualSwitch].IsOn(object) || IsOfTickedOrbit(object, limits) ||
+         IsOfTickedSpectrum(object, limits) || IsWithinMagnitude(object, limits);
+}
+
+/// The magnitudes, which cost most, are reckoned at once for all.
+template <typename Action>
+void ElementClass::ForEachShown(const DisplayLimits& limits, Action action) const {
+  const std::vector<std::uint64_t>* bright =
+      limits.faintest ? &bright_.Bits(*table_, limits) : nullptr;
+  const SwitchColumn& individual = switches_[kIndividualSwitch];
+  for (int object = 0; object < Count(); ++object) {
+    const bool isBright = bright != nullptr && ((*bright)[object / 64] >> (object % 64) & 1) != 0;
+    if (isBright || individual.IsOn(object) || IsOfTickedOrbit(object, limits) ||
+        IsOfTickedSpectrum(object, limits)) {
+      action(object);
+    }
+  }
+}
+
+int ElementClass::CountShown(const DisplayLimits& limits) const {
+  if (!limits.AreInForce()) return static_cast<int>(switches_[kIndividualSwitch].OnCount());
+  int count = 0;
+  ForEachShown(limits, [&count](int) { ++count; });
+  return count;
+}
+
+std::vector<int> ElementClass::Shown(const DisplayLimits& limits) const {
+  std::vector<int> shown;
+  ForEachShown(limits, [&shown](int object) { shown.push_back(object); });
+  return shown;
 }
 
 QString ElementClass::DataPtr() const {

@@ -3,21 +3,25 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include <QString>
 #include <QStringView>
 
+#include "engine/display_limits.h"
 #include "engine/object_switches.h"
 #include "engine/reference_engine.h"
+#include "engine/small_body_types.h"
 
 namespace vyn {
 
 /// Objects are numbered from 0 here and from 1 in paths.
 class ElementClass {
  public:
-  explicit ElementClass(QString classPath);
+  ElementClass(QString classPath, ElementKind kind);
   ~ElementClass();
 
+  ElementKind Kind() const { return kind_; }
   const QString& Path() const { return path_; }
   const ElementTable& Table() const { return *table_; }
   bool IsLoaded() const;
@@ -41,9 +45,17 @@ class ElementClass {
   /// the feature is neither.
   std::optional<QString> Answer(int object, QStringView feature) const;
 
-  /// An object is shown while its individual switch is on.
-  bool IsShown(int object) const { return switches_[kIndividualSwitch].IsOn(object); }
-  qsizetype CountShown() const { return switches_[kIndividualSwitch].OnCount(); }
+  /// Whether the limit in force shows the object.
+  bool IsWithinMagnitude(int object, const DisplayLimits& limits) const;
+  bool IsOfTickedOrbit(int object, const DisplayLimits& limits) const;
+  bool IsOfTickedSpectrum(int object, const DisplayLimits& limits) const;
+
+  /// An object is shown while its individual switch is on or one of the limits in force shows it.
+  bool IsShown(int object, const DisplayLimits& limits) const;
+  int CountShown(const DisplayLimits& limits) const;
+  std::vector<int> Shown(const DisplayLimits& limits) const;
+
+  const SmallBodyTypes& Types() const { return types_; }
 
   ObjectSwitches& Switches() { return switches_; }
   const ObjectSwitches& Switches() const { return switches_; }
@@ -56,12 +68,19 @@ class ElementClass {
   void StartSwitches();
 
  private:
+  template <typename Action>
+  void ForEachShown(const DisplayLimits& limits, Action action) const;
   void FitSwitches();
+  void ReadTypes(int wholeReadsBefore,
+                 void (*readChange)(SmallBodyTypes&, const ElementTable&, int), int object);
   QStringView StartText(int number) const;
 
   QString path_;
+  ElementKind kind_;
   std::unique_ptr<ElementTable> table_;
   ObjectSwitches switches_;
+  SmallBodyTypes types_;
+  mutable BrightObjects bright_;
   bool individualAtStart_ = false;
 };
 

@@ -246,6 +246,7 @@ bool ElementTable::Load(const QString& path) {
   if (opened) fresh->ReadAll();
   if (fresh->Count() > 0) {
     content_ = std::move(fresh);
+    ++wholeReads_;
     return true;
   }
   const QString reason = opened ? u"the file holds no object"_s : fresh->file->Error();

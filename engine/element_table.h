@@ -112,6 +112,9 @@ class ElementTable {
   bool DataAdd();
   bool DataRemove(int object);
 
+  /// How often a whole file has been read.
+  int WholeReads() const { return wholeReads_; }
+
   /// What could not be read, of the last load and what was read again since.
   const std::vector<ElementProblem>& Problems() const;
   /// The number of records with a problem, also of those not kept.
@@ -126,6 +129,7 @@ class ElementTable {
 
   std::unique_ptr<Content> content_;
   std::vector<ElementProblem> loadFailure_;
+  int wholeReads_ = 0;
 };
 
 }  // namespace vyn

@@ -156,11 +156,17 @@ std::optional<MemberPath> MemberOf(QStringView classPath, QStringView path) {
   return MemberPath{classPath.toString(), member, Behind(rest, member.size())};
 }
 
+/// How many types there are and what they are called, not which of them are shown.
+bool IsTypeFact(QStringView path, QStringView word) {
+  if (!SameWord(word, u"OrbitalType") && !SameWord(word, u"SpectralType")) return false;
+  return SameWord(LastWord(path), u"Count") || LastWord(ParentPath(path)).startsWith(u'#');
+}
+
 bool IsElementClassPath(QStringView path) {
   for (const QStringView elements : kElementClasses) {
     if (!IsWithin(path, elements)) continue;
     const QStringView word = FirstWord(Behind(path, elements.size()));
-    return ObjectNumber(word) || IsOneOf(word, kElementFacts) ||
+    return ObjectNumber(word) || IsOneOf(word, kElementFacts) || IsTypeFact(path, word) ||
            SameWord(LastWord(path), u"Members");
   }
   return false;

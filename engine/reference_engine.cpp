@@ -5,6 +5,7 @@
 #include "core_link/reply.h"
 #include "engine/command_text.h"
 #include "engine/element_table.h"
+#include "engine/sky/bodies.h"
 #include "engine/starting_state.h"
 #include "engine/time_properties.h"
 #include "engine/world.h"
@@ -136,14 +137,31 @@ const ElementTable& ReferenceEngine::Elements(ElementKind kind) const {
 }
 
 bool ReferenceEngine::IsObjectShown(ElementKind kind, int object) const {
-  return impl_->world.Elements(kind).IsShown(object);
+  const ElementClass& elements = impl_->world.Elements(kind);
+  return elements.IsShown(object, impl_->world.LimitsOf(elements));
+}
+
+std::vector<int> ReferenceEngine::ShownObjects(ElementKind kind) const {
+  const ElementClass& elements = impl_->world.Elements(kind);
+  return elements.Shown(impl_->world.LimitsOf(elements));
+}
+
+const ObjectSwitches& ReferenceEngine::Switches(ElementKind kind) const {
+  return impl_->world.Elements(kind).Switches();
+}
+
+int ReferenceEngine::OrbitalTypeNumber(ElementKind kind, int object) const {
+  return impl_->world.Elements(kind).Types().Orbital(object);
 }
 
 bool ReferenceEngine::IsObjectOn(ElementKind kind, int object, QStringView feature) const {
   return reply::ToBool(impl_->world.Elements(kind).Answer(object, feature).value_or(QString()));
 }
 
-void ReferenceEngine::SetLocationObject(int bodyNumber) { impl_->locationObject = bodyNumber; }
+void ReferenceEngine::SetLocationObject(int bodyNumber) {
+  impl_->locationObject = bodyNumber;
+  impl_->world.SetObserverBody(bodyNumber >= 0 && bodyNumber < kBodyCount ? bodyNumber : kEarth);
+}
 
 void ReferenceEngine::SetTimeSys(int timeSystem) { impl_->timeSystem = timeSystem; }
 

@@ -4,8 +4,10 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "core_link/cor_vyn.h"
+#include "engine/object_switches.h"
 
 namespace vyn {
 
@@ -45,6 +47,14 @@ class ReferenceEngine final : public CCorVyn {
   /// loaded before, when nothing can be read from it; Elements(kind).Problems() tells the rest.
   bool LoadElements(ElementKind kind, const QString& path);
   const ElementTable& Elements(ElementKind kind) const;
+
+  /// The objects of the loaded file, numbered from 0, that are shown, ascending: those whose
+  /// individual switch is on or that pass one of the limits in force.
+  std::vector<int> ShownObjects(ElementKind kind) const;
+
+  /// The switches of all objects, and the number of the orbital type of one.
+  const ObjectSwitches& Switches(ElementKind kind) const;
+  int OrbitalTypeNumber(ElementKind kind, int object) const;
 
   /// Whether an object of the loaded file, numbered from 0, is shown; and one of its switches by
   /// the feature behind its path, such as "Orbit" or "ID.Visible". False for an unknown object.

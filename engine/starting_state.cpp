@@ -3,7 +3,12 @@
 #include <array>
 #include <span>
 
+#include "engine/reference_engine.h"
+#include "engine/sky/dust_trails.h"
+#include "engine/sky/meteorites.h"
 #include "engine/sky/satellite_table.h"
+#include "engine/small_body_types.h"
+#include "engine/value_text.h"
 
 namespace vyn {
 namespace {
@@ -114,8 +119,8 @@ constexpr Row kSingle[]{
   {u"Solar.MinorPlanet.ID.Color",                     u"#c0c080"},
   {u"Solar.MinorPlanet.ID.Font",                      u"IPAGothic,9"},
   {u"Solar.MinorPlanet.Symbolic",                     u"FALSE"},
-  {u"Solar.Meteorite.Count",                          u"0"},
-  {u"Solar.DustTrail.Count",                          u"0"},
+  {u"Solar.Meteorite.Name.Color",                     u"#ffa070"},
+  {u"Solar.Meteorite.Name.Font",                      u"IPAGothic,9"},
   {u"Solar.DustTrail.DustStream.Color",               u"#808080"},
 };
 
@@ -175,6 +180,17 @@ constexpr Row kOfElementClasses[]{
   {u"Vector.Multiplier",            u"1"},
   {u"Brighter.Visible",             u"FALSE"},
   {u"Brighter.Magnitude",           u"12.0"},
+};
+
+constexpr Row kOfMeteorites[]{
+  {u"Visible",                      u"FALSE"},
+  {u"JapaneseName.Visible",         u"TRUE"},
+  {u"Orbit.Visible",                u"TRUE"},
+};
+
+constexpr Row kOfDustTrails[]{
+  {u"Visible",                      u"FALSE"},
+  {u"Orbit.Visible",                u"TRUE"},
 };
 
 /// Of Mars and Jupiter, which carry surface textures and images.
@@ -250,6 +266,39 @@ void TakeSatelliteCounts(const Take& take) {
   take(u"Solar.Planet.Satellite.Count"_s, QString::number(total));
 }
 
+void TakeOrbitalTypes(const QString& path, ElementKind kind, const Take& take) {
+  const auto types = OrbitalTypesOf(kind);
+  const QString typePath = path + u".OrbitalType";
+  take(typePath + u".Count", QString::number(types.size()));
+  for (std::size_t i = 0; i < types.size(); ++i) {
+    const QString member = typePath + u".#" + QString::number(i + 1);
+    take(member + u".ObjectName", types[i].objectName);
+    take(member + u".LocalName", types[i].localName);
+    take(typePath + u'.' + types[i].objectName, u"FALSE");
+  }
+}
+
+void TakeMeteorites(const Take& take) {
+  int number = 0;
+  for (const Meteorite& meteorite : RecordedMeteorites()) {
+    const QString path = u"Solar.Meteorite.No"_s + QString::number(++number);
+    TakeNames({path, meteorite.japaneseName, meteorite.englishName}, take);
+    take(path + u".TimeOfFall", NumberText(meteorite.FallJdUt()));
+    TakeRows(path, kOfMeteorites, take);
+  }
+  take(u"Solar.Meteorite.Count"_s, QString::number(number));
+}
+
+void TakeDustTrails(const Take& take) {
+  int number = 0;
+  for (const DustTrail& trail : KnownDustTrails()) {
+    const QString path = u"Solar.DustTrail.No"_s + QString::number(++number);
+    take(path + u".Name", u"%1 (%2)"_s.arg(trail.name, trail.parent));
+    TakeRows(path, kOfDustTrails, take);
+  }
+  take(u"Solar.DustTrail.Count"_s, QString::number(number));
+}
+
 }  // namespace
 
 QString BodyPath(int bodyNumber) {
@@ -272,6 +321,10 @@ void ForEachStartingValue(const Take& take) {
   for (const auto path : {u"Solar.Comet", u"Solar.MinorPlanet"}) {
     TakeRows(path, kOfElementClasses, take);
   }
+  TakeOrbitalTypes(u"Solar.Comet"_s, ElementKind::Comet, take);
+  TakeOrbitalTypes(u"Solar.MinorPlanet"_s, ElementKind::MinorPlanet, take);
+  TakeMeteorites(take);
+  TakeDustTrails(take);
   for (const auto path : {u"Solar.Planet.Mars", u"Solar.Planet.Jupiter"}) {
     TakeRows(path, kOfImagedPlanets, take);
   }

@@ -2,6 +2,8 @@
 
 #include "core_link/reply.h"
 #include "engine/data_sets.h"
+#include "engine/sky/bodies.h"
+#include "engine/sky/time_scales.h"
 #include "engine/starting_state.h"
 #include "engine/status_script.h"
 #include "engine/time_properties.h"
@@ -25,11 +27,29 @@ int SlotNumber(QStringView path) {
   return number <= World::kMaxSlot ? number : 0;
 }
 
+/// Why an object is shown; empty for any reason.
+struct ShowingReason {
+  QStringView feature;
+  bool (ElementClass::*shows)(int, const DisplayLimits&) const;
+};
+
+// clang-format off
+constexpr ShowingReason kShowingReasons[]{
+  {u"",             &ElementClass::IsShown},
+  {u"Brighter",     &ElementClass::IsWithinMagnitude},
+  {u"OrbitalType",  &ElementClass::IsOfTickedOrbit},
+  {u"SpectralType", &ElementClass::IsOfTickedSpectrum},
+};
+// clang-format on
+
 QString TruthText(bool on) { return on ? u"TRUE"_s : u"FALSE"_s; }
 
 }  // namespace
 
-World::World() : elements_{ElementClass(u"Solar.Comet"_s), ElementClass(u"Solar.MinorPlanet"_s)} {}
+World::World()
+    : elements_{ElementClass(u"Solar.Comet"_s, ElementKind::Comet),
+                ElementClass(u"Solar.MinorPlanet"_s, ElementKind::MinorPlanet)},
+      observerBody_(static_cast<int>(Body::Earth)) {}
 
 QString World::Read(QStringView path) {
   const PropertyNode* node = tree_.Find(path);
@@ -92,15 +112,66 @@ QString World::ReadElements(const QString& path) {
   const ElementClass* elements = ElementsOf(path);
   if (elements == nullptr) return Inherited(path);
   const QStringView word = LastWord(path);
+  const QStringView feature = QStringView(path).sliced(elements->Path().size() + 1);
+  if (feature.contains(u'.')) return ReadTypes(*elements, feature);
   if (SameWord(word, u"Count")) return QString::number(elements->Count());
-  if (SameWord(word, u"CountOfVisible")) return QString::number(elements->CountShown());
+  if (SameWord(word, u"CountOfVisible"))
+    return QString::number(elements->CountShown(LimitsOf(*elements)));
   if (SameWord(word, u"File")) return elements->File();
   return SameWord(word, u"DataPtr") ? elements->DataPtr() : QString();
 }
 
+/// What a loaded file adds to "Solar.Comet.OrbitalType" and "Solar.MinorPlanet.SpectralType".
+QString World::ReadTypes(const ElementClass& elements, QStringView feature) const {
+  const QStringView last = LastWord(feature);
+  const QStringView member = LastWord(ParentPath(feature));
+  if (IsWithin(feature, u"SpectralType")) {
+    const bool isLetter =
+        member.size() == 1 && member[0].toUpper() >= u'A' && member[0].toUpper() <= u'Z';
+    if (!isLetter || elements.Kind() == ElementKind::Comet) return {};
+    return QString::number(elements.Types().SpectralCount(member[0].toUpper().toLatin1()));
+  }
+  const auto types = OrbitalTypesOf(elements.Kind());
+  if (SameWord(feature, u"OrbitalType.Count")) return QString::number(types.size());
+  const auto number = static_cast<std::size_t>(reply::ToInt(member.sliced(1)));
+  if (number < 1 || number > types.size()) return {};
+  if (SameWord(last, u"ObjectName")) return types[number - 1].objectName.toString();
+  return SameWord(last, u"LocalName") ? types[number - 1].localName.toString() : QString();
+}
+
+bool World::IsClassOn(const ElementClass& elements, QStringView feature) const {
+  const PropertyNode* node = tree_.Find(QString(elements.Path() + u'.' + feature));
+  return node != nullptr && node->hasValue && reply::ToBool(node->value);
+}
+
+DisplayLimits World::LimitsOf(const ElementClass& elements) const {
+  DisplayLimits limits;
+  limits.moment = {TtFromUt(JulianDateOf(tree_)), observerBody_};
+  if (IsClassOn(elements, u"Brighter")) {
+    const PropertyNode* magnitude = tree_.Find(QString(elements.Path() + u".Brighter.Magnitude"));
+    limits.faintest = magnitude != nullptr ? reply::ToDouble(magnitude->value) : 0.0;
+  }
+  const auto types = OrbitalTypesOf(elements.Kind());
+  for (std::size_t i = 0; i < types.size(); ++i) {
+    if (IsClassOn(elements, QString(u"OrbitalType."_s + types[i].objectName)))
+      limits.orbitalTypes |= 1U << i;
+  }
+  if (tree_.Find(QString(elements.Path() + u".SpectralType")) == nullptr) return limits;
+  for (char16_t letter = u'A'; letter <= u'Z'; ++letter) {
+    if (IsClassOn(elements, QString(u"SpectralType."_s + QChar(letter)))) {
+      limits.spectralTypes |= 1U << (letter - u'A');
+    }
+  }
+  return limits;
+}
+
 /// A null text when the object has no answer of its own.
 QString World::ReadObject(const Object& object) {
-  if (object.feature.isEmpty()) return TruthText(object.elements->IsShown(object.index));
+  const ElementClass& elements = *object.elements;
+  for (const ShowingReason& reason : kShowingReasons) {
+    if (!SameWord(reason.feature, object.feature)) continue;
+    return TruthText((elements.*reason.shows)(object.index, LimitsOf(elements)));
+  }
   const auto answer = object.elements->Answer(object.index, object.feature);
   if (!answer) return {};
   return answer->isNull() ? u""_s : *answer;

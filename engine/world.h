@@ -59,6 +59,12 @@ class World {
   bool LoadElements(ElementKind kind, const QString& file);
 
   PropertyTree& Tree() { return tree_; }
+  /// The body on whose centre magnitudes are reckoned for the limits, numbered as in Body.
+  void SetObserverBody(int body) { observerBody_ = body; }
+
+  /// What of the objects' limits is in force.
+  DisplayLimits LimitsOf(const ElementClass& elements) const;
+
   ElementClass& Elements(ElementKind kind) { return elements_[static_cast<std::size_t>(kind)]; }
   const ElementClass& Elements(ElementKind kind) const {
     return elements_[static_cast<std::size_t>(kind)];
@@ -77,6 +83,8 @@ class World {
   QString ReadStatus(const QString& path);
   QString ReadElements(const QString& path);
   QString ReadObject(const Object& object);
+  QString ReadTypes(const ElementClass& elements, QStringView feature) const;
+  bool IsClassOn(const ElementClass& elements, QStringView feature) const;
   QString Inherited(const QString& path);
   bool MemberExists(const MemberPath& member, const QString& path);
 
@@ -100,6 +108,7 @@ class World {
   PropertyTree tree_;
   std::array<ElementClass, 2> elements_;
   std::map<int, Snapshot> slots_;
+  int observerBody_;
 };
 
 }  // namespace vyn

@@ -11,6 +11,12 @@ bool IsDataCommand(QStringView feature) {
   return SameWord(feature, u"DataUpdate") || SameWord(feature, u"DataRemove");
 }
 
+/// What the engine tells of an object and nobody sets.
+bool IsShowingReason(QStringView feature) {
+  return SameWord(feature, u"Brighter") || SameWord(feature, u"OrbitalType") ||
+         SameWord(feature, u"SpectralType");
+}
+
 }  // namespace
 
 void World::AssignElements(const QString& path, const QString& value) {
@@ -66,6 +72,7 @@ void World::ForgetObjects(const ElementClass& elements) {
 
 void World::AssignObject(const Object& object, const QString& path, const QString& value) {
   if (IsDataCommand(object.feature)) return CarryOut(object, value);
+  if (IsShowingReason(object.feature)) return EndPut(path);
   const int number = object.feature.isEmpty() ? kIndividualSwitch : ObjectSwitchOf(object.feature);
   if (number < 0) return tree_.SetValue(tree_.Make(path), value);
   const bool answers = object.elements->Switches()[number].Set(object.index, value);

@@ -24,6 +24,11 @@ SmallBody BodyInColumns(const ElementColumns& columns, int row) {
   return body;
 }
 
+double CoefficientOf(const SmallBody& body, bool comet) {
+  if (!std::isnan(body.magnitudeCoefficient)) return body.magnitudeCoefficient;
+  return comet ? kUsualCometCoefficient : kUsualSlope;
+}
+
 double YearOf(double jd) { return 2000.0 + (jd - 2451545.0) / 365.25; }
 
 }  // namespace
@@ -56,12 +61,21 @@ BodyPlace SkySnapshot::PlaceOf(Body body) const {
   return place;
 }
 
+double SmallBodyMagnitude(const ElementTable& table, int object, double jdTt,
+                          const StateVector& observer) {
+  const SmallBody body = table.PageCount(object) > 1 ? table.BodyAt(object, jdTt)
+                                                     : BodyInColumns(table.Columns(), object);
+  if (std::isnan(body.absoluteMagnitude)) return body.absoluteMagnitude;
+  const bool comet = table.IsComet(object);
+  const Vector3 place = PositionAt(body.orbit, jdTt);
+  const auto magnitude = comet ? CometMagnitude : MinorPlanetMagnitude;
+  return magnitude(body.absoluteMagnitude, CoefficientOf(body, comet),
+                   IlluminationOf(place, place - observer.position));
+}
+
 SmallBodyPlaces::Fixed SmallBodyPlaces::FixedOf(const SmallBody& body, bool comet) {
-  const double usual = comet ? kUsualCometCoefficient : kUsualSlope;
-  const double coefficient =
-      std::isnan(body.magnitudeCoefficient) ? usual : body.magnitudeCoefficient;
   return {body.orbit, PlaneOf(body.orbit), static_cast<float>(body.absoluteMagnitude),
-          static_cast<float>(coefficient), comet};
+          static_cast<float>(CoefficientOf(body, comet)), comet};
 }
 
 void SmallBodyPlaces::SetTable(const ElementTable& table) {

@@ -50,6 +50,11 @@ class SkySnapshot {
   std::array<BodyPlace, kBodyCount> places_;
 };
 
+/// The magnitude of one comet or minor planet of an element file, by the record valid then; NaN for
+/// one without absolute magnitude. The observer's place is told relative to the Sun.
+double SmallBodyMagnitude(const ElementTable& table, int object, double jdTt,
+                          const StateVector& observer);
+
 /// The places of all comets or minor planets of an element file. What does not change from frame to
 /// frame is reckoned once, when the table is set.
 class SmallBodyPlaces {

@@ -46,7 +46,7 @@ int ElementClass::Count() const { return table_->Count(); }
 bool ElementClass::Load(const QString& file) {
   if (!table_->Load(file)) return false;
   types_.ReadAll(*table_);
-  bright_.TableChanged();
+  TableChanged();
   FitSwitches();
   StartSwitches();
   return true;
@@ -91,7 +91,7 @@ bool ElementClass::RemoveObject(int object) {
 void ElementClass::ReadTypes(int wholeReadsBefore,
                              void (*readChange)(SmallBodyTypes&, const ElementTable&, int),
                              int object) {
-  bright_.TableChanged();
+  TableChanged();
   if (table_->WholeReads() != wholeReadsBefore) return types_.ReadAll(*table_);
   readChange(types_, *table_, object);
 }
@@ -162,6 +162,25 @@ std::vector<int> ElementClass::Shown(const DisplayLimits& limits) const {
   std::vector<int> shown;
   ForEachShown(limits, [&shown](int object) { shown.push_back(object); });
   return shown;
+}
+
+void ElementClass::TableChanged() {
+  bright_.TableChanged();
+  kept_.isTableKnown = false;
+  kept_.isUpToDate = false;
+}
+
+const SmallBodyPlaces& ElementClass::PlacesAt(double jdTt, const StateVector& observer) const {
+  const bool isSame = kept_.isUpToDate && kept_.jdTt == jdTt &&
+                      kept_.observer.position == observer.position &&
+                      kept_.observer.velocity == observer.velocity;
+  if (isSame) return kept_.places;
+  if (!kept_.isTableKnown) kept_.places.SetTable(*table_);
+  kept_.places.Update(jdTt, observer);
+  kept_.jdTt = jdTt;
+  kept_.observer = observer;
+  kept_.isTableKnown = kept_.isUpToDate = true;
+  return kept_.places;
 }
 
 QString ElementClass::DataPtr() const {

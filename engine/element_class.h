@@ -11,6 +11,7 @@
 #include "engine/display_limits.h"
 #include "engine/object_switches.h"
 #include "engine/reference_engine.h"
+#include "engine/sky/sky_snapshot.h"
 #include "engine/small_body_types.h"
 
 namespace vyn {
@@ -57,6 +58,10 @@ class ElementClass {
 
   const SmallBodyTypes& Types() const { return types_; }
 
+  /// The places of all objects at that moment and for that observer, kept until either or the
+  /// table changes.
+  const SmallBodyPlaces& PlacesAt(double jdTt, const StateVector& observer) const;
+
   ObjectSwitches& Switches() { return switches_; }
   const ObjectSwitches& Switches() const { return switches_; }
 
@@ -70,6 +75,7 @@ class ElementClass {
  private:
   template <typename Action>
   void ForEachShown(const DisplayLimits& limits, Action action) const;
+  void TableChanged();
   void FitSwitches();
   void ReadTypes(int wholeReadsBefore,
                  void (*readChange)(SmallBodyTypes&, const ElementTable&, int), int object);
@@ -81,6 +87,14 @@ class ElementClass {
   ObjectSwitches switches_;
   SmallBodyTypes types_;
   mutable BrightObjects bright_;
+  struct KeptPlaces {
+    SmallBodyPlaces places;
+    double jdTt = 0.0;
+    StateVector observer;
+    bool isTableKnown = false;
+    bool isUpToDate = false;
+  };
+  mutable KeptPlaces kept_;
   bool individualAtStart_ = false;
 };
 

@@ -146,6 +146,11 @@ std::vector<int> ReferenceEngine::ShownObjects(ElementKind kind) const {
   return elements.Shown(impl_->world.LimitsOf(elements));
 }
 
+const SmallBodyPlaces& ReferenceEngine::PlacesAt(ElementKind kind, double jdTt,
+                                                 const StateVector& observer) const {
+  return impl_->world.Elements(kind).PlacesAt(jdTt, observer);
+}
+
 const ObjectSwitches& ReferenceEngine::Switches(ElementKind kind) const {
   return impl_->world.Elements(kind).Switches();
 }

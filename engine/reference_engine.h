@@ -12,6 +12,8 @@
 namespace vyn {
 
 class ElementTable;
+class SmallBodyPlaces;
+struct StateVector;
 enum class ElementKind { Comet, MinorPlanet };
 
 /// A core engine for tests, tools and the demo planetarium. It starts bare: no property has a
@@ -51,6 +53,10 @@ class ReferenceEngine final : public CCorVyn {
   /// The objects of the loaded file, numbered from 0, that are shown, ascending: those whose
   /// individual switch is on or that pass one of the limits in force.
   std::vector<int> ShownObjects(ElementKind kind) const;
+
+  /// The places of all objects of the loaded file for that observer, whose place and velocity are
+  /// told relative to the Sun. They are kept: asking again for the same costs nothing.
+  const SmallBodyPlaces& PlacesAt(ElementKind kind, double jdTt, const StateVector& observer) const;
 
   /// The switches of all objects, and the number of the orbital type of one.
   const ObjectSwitches& Switches(ElementKind kind) const;

@@ -89,6 +89,14 @@ BodyDisplay ReadBody(ReferenceEngine& engine, const BodyRow& body, const LabelSt
   return display;
 }
 
+SmallBodyDisplay ReadSmallBodies(ReferenceEngine& engine, const QString& path,
+                                 const LabelStyle& fallback) {
+  return {ReadStyle(engine, path + u".ID", fallback),
+          engine.Number(QString(path + u".Vector.Span"), 1.0),
+          engine.Number(QString(path + u".Vector.Multiplier"), 1.0),
+          engine.IsOn(QString(path + u".Symbolic"))};
+}
+
 }  // namespace
 
 /// The dialog of the Sun and the Moon has one colour for both names, so the Moon's falls back to
@@ -108,7 +116,10 @@ DisplayState ReadDisplayState(ReferenceEngine& engine) {
   display.satellites = ReadSatelliteDisplay(engine);
   display.satelliteStyle = ReadStyle(engine, u"Solar.Planet.Satellite.Name"_s, plain);
   for (const SkySwitch& row : kSkySwitches) display.*row.value = engine.IsOn(row.path);
-  display.cometStyle = ReadStyle(engine, u"Solar.Comet.ID"_s, plain);
+  display.comets = ReadSmallBodies(engine, u"Solar.Comet"_s, plain);
+  display.minorPlanets = ReadSmallBodies(engine, u"Solar.MinorPlanet"_s, plain);
+  display.meteoriteStyle = ReadStyle(engine, u"Solar.Meteorite.Name"_s, plain);
+  display.dustTrailColor = ReadStyle(engine, u"Solar.DustTrail.DustStream"_s, plain).color;
   display.regionStyle = ReadStyle(engine, u"Solar.MainBelt"_s, plain);
   return display;
 }

@@ -45,11 +45,22 @@ struct BodyDisplay {
   LabelStyle nameStyle;
 };
 
+/// How the comets or the minor planets are drawn.
+struct SmallBodyDisplay {
+  LabelStyle style;
+  double vectorSpanDays = 1.0;
+  double vectorMultiplier = 1.0;
+  bool isSymbolic = false;  ///< by orbital type instead of by brightness
+};
+
 struct DisplayState {
   std::array<BodyDisplay, kSkyBodyCount> bodies;
   std::vector<SatelliteDisplay> satellites;  ///< those of which something is switched on
   LabelStyle satelliteStyle;
-  LabelStyle cometStyle;
+  SmallBodyDisplay comets;
+  SmallBodyDisplay minorPlanets;
+  LabelStyle meteoriteStyle;
+  QColor dustTrailColor;
   bool lunarEclipseUmbra = false;
   bool lunarEclipsePenumbra = false;
   bool solarEclipseUmbra = false;

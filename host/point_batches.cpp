@@ -21,4 +21,23 @@ void CometPoints::Paint(QPainter& painter) const {
   }
 }
 
+PointCloud::PointCloud(const QSizeF& pictureSize)
+    : image_(pictureSize.toSize(), QImage::Format_ARGB32_Premultiplied) {
+  image_.fill(Qt::transparent);
+}
+
+void PointCloud::Add(const QPointF& at, QRgb color, int size) {
+  if (!(at.x() >= 0.0 && at.y() >= 0.0 && at.x() + size < image_.width() &&
+        at.y() + size < image_.height())) {
+    return;
+  }
+  const int left = static_cast<int>(at.x());
+  for (int row = 0; row < size; ++row) {
+    auto* line = reinterpret_cast<QRgb*>(image_.scanLine(static_cast<int>(at.y()) + row)) + left;
+    for (int column = 0; column < size; ++column) line[column] = color;
+  }
+}
+
+void PointCloud::Paint(QPainter& painter) const { painter.drawImage(QPointF(), image_); }
+
 }  // namespace vyn

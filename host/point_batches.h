@@ -4,6 +4,7 @@
 #include <array>
 
 #include <QColor>
+#include <QImage>
 #include <QPolygonF>
 
 class QPainter;
@@ -29,6 +30,19 @@ class CometPoints {
       {{6.0, 6.0, 255}, {10.0, 4.2, 230}, {14.0, 3.0, 190}, {19.0, 2.2, 150}, {99.0, 1.8, 120}}};
 
   std::array<QPolygonF, kClasses.size()> points_;
+};
+
+/// A million points and more, as picture elements of one image.
+class PointCloud {
+ public:
+  explicit PointCloud(const QSizeF& pictureSize);
+
+  /// A point outside the picture is left out. Points are `size` picture elements wide.
+  void Add(const QPointF& at, QRgb color, int size);
+  void Paint(QPainter& painter) const;
+
+ private:
+  QImage image_;
 };
 
 }  // namespace vyn

@@ -2,15 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
-#include "engine/element_table.h"
 #include "engine/reference_engine.h"
 #include "engine/sky/disk_orientation.h"
 #include "engine/sky/magnitudes.h"
 #include "engine/sky/observer.h"
 #include "engine/sky/satellites.h"
-#include "engine/sky/sky_snapshot.h"
 #include "engine/sky/time_scales.h"
 #include "host/view_state.h"
 
@@ -85,55 +82,6 @@ SceneBody SeenBody(SkyBody body, double jdTt, const Viewpoint& viewpoint) {
   return seen;
 }
 
-/// Which comets are there, and where.
-class CometReader {
- public:
-  explicit CometReader(const ReferenceEngine& engine)
-      : engine_(engine), table_(engine.Elements(ElementKind::Comet)) {
-    if (engine.IsOn(u"Solar.Comet.Brighter.Visible")) {
-      faintest_ = engine.Number(u"Solar.Comet.Brighter.Magnitude");
-    }
-  }
-
-  std::vector<SceneComet> Read(double jdTt, const Viewpoint& viewpoint) const {
-    SmallBodyPlaces places;
-    places.SetTable(table_);
-    places.Update(jdTt, {viewpoint.position, viewpoint.velocity});
-    std::vector<SceneComet> comets;
-    comets.reserve(places.Count());
-    for (int object = 0; object < places.Count(); ++object) {
-      if (std::isfinite(places.FromSite(object).x) && IsThere(object, places.Magnitude(object))) {
-        comets.push_back({object, places.Heliocentric(object), places.FromSite(object),
-                          places.Magnitude(object), Name(object)});
-      }
-    }
-    return comets;
-  }
-
- private:
-  bool IsThere(int object, double magnitude) const {
-    return engine_.IsObjectShown(ElementKind::Comet, object) ||
-           (faintest_ && magnitude <= *faintest_);
-  }
-
-  bool IsOn(int object, QStringView feature) const {
-    return engine_.IsObjectOn(ElementKind::Comet, object, feature);
-  }
-
-  /// Few comets have a Japanese name; the others are called by their English one in both languages.
-  QString Name(int object) const {
-    const bool isJapanese = IsOn(object, u"JapaneseName.Visible");
-    QString name = isJapanese ? table_.JapaneseName(object) : QString();
-    if (!name.isEmpty()) return name;
-    if (isJapanese || IsOn(object, u"EnglishName.Visible")) return table_.EnglishName(object);
-    return IsOn(object, u"ID.Visible") ? table_.Identifier(object) : QString();
-  }
-
-  const ReferenceEngine& engine_;
-  const ElementTable& table_;
-  std::optional<double> faintest_;
-};
-
 }  // namespace
 
 double SceneBody::RadiusRad() const { return std::asin(std::min(1.0, RadiusAu() / Length(seen))); }
@@ -146,9 +94,7 @@ Scene BuildScene(const ReferenceEngine& engine, ViewKind view) {
   for (const BodyRow& row : kBodies) {
     scene.bodies[IndexOf(row.body)] = SeenBody(row.body, scene.jdTt, scene.viewpoint);
   }
-  if (engine.IsOn(u"Solar.Comet.Visible")) {
-    scene.comets = CometReader(engine).Read(scene.jdTt, scene.viewpoint);
-  }
+  ReadSmallBodies(engine, &scene);
   return scene;
 }
 

@@ -10,6 +10,7 @@
 #include "engine/sky/bodies.h"
 #include "host/body_table.h"
 #include "host/satellite_display.h"
+#include "host/scene_small_bodies.h"
 #include "siblings/astro/direction_cosines.h"
 
 namespace vyn {
@@ -37,20 +38,6 @@ struct SceneSatellite {
   double magnitude = 0.0;  ///< NaN when not known
 };
 
-struct SceneComet {
-  int object = 0;  ///< in the loaded element file
-  Vector3 heliocentric;
-  Vector3 seen;
-  double magnitude = 0.0;  ///< NaN when not known
-  QString name;            ///< as it is to be shown; empty when no name is
-};
-
-/// Whether its name is switched on and the comet bright enough to be named on a crowded picture.
-inline bool IsWorthALabel(const SceneComet& comet) {
-  constexpr double kFaintest = 16.0;
-  return !comet.name.isEmpty() && comet.magnitude <= kFaintest;
-}
-
 /// Where the observer stands.
 struct Viewpoint {
   SkyBody body = SkyBody::Earth;
@@ -71,13 +58,16 @@ struct Scene {
   Viewpoint viewpoint;
   std::array<SceneBody, kSkyBodyCount> bodies;
   std::vector<SceneSatellite> satellites;  ///< whose orbit is known, by their bodies
-  std::vector<SceneComet> comets;          ///< those that are switched on
+  std::vector<SceneSmallBody> comets;      ///< those that are shown
+  MinorPlanetPoints minorPlanetPoints;
+  std::vector<SceneSmallBody> minorPlanets;  ///< those of which more than a point is shown
+  std::vector<SceneTrack> meteorites;        ///< those that are switched on
+  std::vector<SceneTrack> dustTrails;        ///< likewise
 
   const SceneBody& Of(SkyBody body) const { return bodies[IndexOf(body)]; }
 };
 
-/// Reads the moment, the place and the loaded comets of the engine. A comet is there when it is
-/// switched on itself or is brighter than the limit in force.
+/// Reads the moment, the place and the small bodies of the engine.
 Scene BuildScene(const ReferenceEngine& engine, ViewKind view);
 
 /// When the light left that shows a body of the scene in this view; from outside everything is

@@ -7,7 +7,6 @@
 
 #include "host/disk_painter.h"
 #include "host/place_names.h"
-#include "host/point_batches.h"
 #include "host/satellite_painter.h"
 #include "host/sky_canvas.h"
 #include "host/sky_satellites.h"
@@ -115,20 +114,6 @@ void PaintSkyBodies(SkyCanvas& canvas) {
   for (const SceneBody* body : bodies) {
     if (body->body != canvas.frame.scene.viewpoint.body) PaintWithSatellites(canvas, *body);
   }
-}
-
-void PaintSkyComets(SkyCanvas& canvas) {
-  CometPoints points;
-  const LabelStyle style = StyleOr(canvas.frame.display.cometStyle, CometPoints::Color());
-  for (const SceneComet& comet : canvas.frame.scene.comets) {
-    const auto at = canvas.At(comet.seen);
-    if (!at || !canvas.IsInPicture(*at, 4.0)) continue;
-    points.Add(*at, comet.magnitude);
-    if (IsWorthALabel(comet)) {
-      canvas.labels.Add({*at, 4.0, comet.name, style, LabelRank::Faint});
-    }
-  }
-  points.Paint(canvas.painter);
 }
 
 }  // namespace vyn

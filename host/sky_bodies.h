@@ -1,4 +1,4 @@
-// Paints the Sun, the Moon, the planets with their satellites, and the comets of the sky view.
+// Paints the Sun, the Moon and the planets with their satellites of the sky view.
 #pragma once
 
 namespace vyn {
@@ -6,6 +6,5 @@ namespace vyn {
 struct SkyCanvas;
 
 void PaintSkyBodies(SkyCanvas& canvas);
-void PaintSkyComets(SkyCanvas& canvas);
 
 }  // namespace vyn

@@ -55,7 +55,7 @@ void PaintPerpendiculars(SkyCanvas& canvas, SkyBody body) {
   }
   canvas.Stroke(feet.Path(), QPen(PerpendicularColor(body), 1.0));
   LineBuilder own(canvas.frame.size);
-  AddArc(canvas, PerpendicularOf(canvas.frame.scene.Of(body)), &own);
+  AddArc(canvas, PerpendicularOf(canvas.frame.scene.Of(body).heliocentric), &own);
   canvas.Stroke(own.Path(), QPen(OrbitColor(body), 2.0));
 }
 

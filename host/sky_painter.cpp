@@ -4,6 +4,7 @@
 #include "host/sky_bodies.h"
 #include "host/sky_canvas.h"
 #include "host/sky_marks.h"
+#include "host/sky_small_bodies.h"
 
 namespace vyn {
 
@@ -12,7 +13,7 @@ void PaintSky(QPainter& painter, const Frame& frame) {
   PaintSkyBackground(canvas);
   PaintSkyGrid(canvas);
   PaintSkyOrbits(canvas);
-  PaintSkyComets(canvas);
+  PaintSkySmallBodies(canvas);
   PaintSkyBodies(canvas);
   PaintSkyMotion(canvas);
   PaintEarthShadow(canvas);

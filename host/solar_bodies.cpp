@@ -6,7 +6,6 @@
 
 #include "host/disk_painter.h"
 #include "host/place_names.h"
-#include "host/point_batches.h"
 #include "host/satellite_painter.h"
 #include "host/solar_canvas.h"
 #include "host/solar_eclipse.h"
@@ -107,18 +106,6 @@ void PaintSolarBodies(SolarCanvas& canvas) {
     return canvas.camera.DepthAu(a->heliocentric) > canvas.camera.DepthAu(b->heliocentric);
   });
   for (const SceneBody* body : bodies) PaintWithSatellites(canvas, *body);
-}
-
-void PaintSolarComets(SolarCanvas& canvas) {
-  CometPoints points;
-  const LabelStyle style = StyleOr(canvas.frame.display.cometStyle, CometPoints::Color());
-  for (const SceneComet& comet : canvas.frame.scene.comets) {
-    const auto at = canvas.camera.ToPicture(comet.heliocentric);
-    if (!at || !canvas.IsInPicture(*at, 4.0)) continue;
-    points.Add(*at, comet.magnitude);
-    if (IsWorthALabel(comet)) canvas.labels.Add({*at, 4.0, comet.name, style, LabelRank::Faint});
-  }
-  points.Paint(canvas.painter);
 }
 
 }  // namespace vyn

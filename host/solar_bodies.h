@@ -1,4 +1,4 @@
-// Paints the bodies of the solar system's view and the comets.
+// Paints the bodies of the solar system's view.
 #pragma once
 
 namespace vyn {
@@ -6,6 +6,5 @@ namespace vyn {
 struct SolarCanvas;
 
 void PaintSolarBodies(SolarCanvas& canvas);
-void PaintSolarComets(SolarCanvas& canvas);
 
 }  // namespace vyn

@@ -71,7 +71,7 @@ void PaintPerpendiculars(SolarCanvas& canvas, SkyBody body) {
     feet.addPath(SpaceLine(canvas.camera, segment));
   }
   canvas.Stroke(feet, QPen(PerpendicularColor(body), 1.0));
-  canvas.Stroke(SpaceLine(canvas.camera, PerpendicularOf(canvas.frame.scene.Of(body))),
+  canvas.Stroke(SpaceLine(canvas.camera, PerpendicularOf(canvas.frame.scene.Of(body).heliocentric)),
                 QPen(OrbitColor(body), 2.0));
 }
 

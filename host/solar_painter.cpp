@@ -6,6 +6,7 @@
 #include "host/solar_planes.h"
 #include "host/solar_regions.h"
 #include "host/solar_satellites.h"
+#include "host/solar_small_bodies.h"
 #include "host/vector_registers.h"
 
 namespace vyn {
@@ -20,7 +21,7 @@ void PaintSolarSystem(QPainter& painter, const Frame& frame) {
   PaintOrbitalPlanes(canvas);
   PaintSolarOrbits(canvas);
   PaintSolarSatelliteOrbits(canvas);
-  PaintSolarComets(canvas);
+  PaintSolarSmallBodies(canvas);
   PaintSolarBodies(canvas);
   PaintSolarMotion(canvas);
   PaintSolarLagrangianMarks(canvas);

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "host/line_builder.h"
+#include "host/point_batches.h"
 #include "host/solar_canvas.h"
 #include "host/vector_registers.h"
 #include "siblings/astro/angles.h"
@@ -16,6 +17,7 @@ const QColor kEclipticColor(110, 160, 235);
 constexpr int kEclipticAlpha = 20;
 constexpr int kNorthAlpha = 52;
 constexpr int kSouthAlpha = 24;
+constexpr double kFarthestAu = 200.0;
 
 using Area = std::vector<Vector3>;
 
@@ -63,25 +65,27 @@ Vector3 OrbitPlace(const OrbitElements& orbit, double anomalyDeg) {
 }
 
 /// The part north of the ecliptic is brighter; they meet in the line of nodes.
-void PaintOrbitalPlane(SolarCanvas& canvas, SkyBody body) {
+void PaintOrbitalPlane(SolarCanvas& canvas, const OrbitElements& orbit, const QColor& color) {
   constexpr int kPoints = 181;
-  constexpr double kFarthestAu = 200.0;
-  const OrbitElements orbit = OrbitOf(body, canvas.frame.scene.jdTt);
-  Area area = OrbitPolyline(orbit, kPoints, kFarthestAu);
-  area.pop_back();
-  const QColor color = QColor::fromRgb(RowOf(body).color);
+  const Area area = OrbitPolyline(orbit, kPoints, kFarthestAu);
+  if (area.empty()) return;
   Fill(canvas, Above(area, [](const Vector3& place) { return place.z; }),
        WithAlpha(color, kNorthAlpha));
   Fill(canvas, Above(area, [](const Vector3& place) { return -place.z; }),
        WithAlpha(color, kSouthAlpha));
   const double ascendingDeg = -orbit.argumentOfPerihelionDeg;
+  // An open orbit may meet the ecliptic only once.
+  if (orbit.eccentricity >= 1.0) return;
   const Vector3 nodes[] = {OrbitPlace(orbit, ascendingDeg),
                            OrbitPlace(orbit, ascendingDeg + 180.0)};
   canvas.Stroke(SpaceLine(canvas.camera, nodes), QPen(WithAlpha(color, 130), 1.0, Qt::DashLine));
 }
 
+/// As far as it is drawn.
 double AphelionAu(const OrbitElements& orbit) {
-  return orbit.perihelionDistanceAu * (1.0 + orbit.eccentricity) / (1.0 - orbit.eccentricity);
+  if (orbit.eccentricity >= 1.0) return kFarthestAu;
+  return std::min(kFarthestAu, orbit.perihelionDistanceAu * (1.0 + orbit.eccentricity) /
+                                   (1.0 - orbit.eccentricity));
 }
 
 /// The planes of all bodies are one, so it is filled once, as far as the farthest of them goes.
@@ -95,6 +99,11 @@ void PaintEclipticPlane(SolarCanvas& canvas) {
         QPen(WithAlpha(kEclipticColor, 120), 1.0));
     farthest = std::max(farthest, radius);
   }
+  for (const auto* bodies : {&canvas.frame.scene.comets, &canvas.frame.scene.minorPlanets}) {
+    for (const SceneSmallBody& body : *bodies) {
+      if (body.aids.eclipticPlane) farthest = std::max(farthest, AphelionAu(body.orbit));
+    }
+  }
   if (farthest == 0.0) return;
   Fill(canvas, CirclePoints({}, {farthest, 0.0, 0.0}, {0.0, farthest, 0.0}, 180),
        WithAlpha(kEclipticColor, kEclipticAlpha));
@@ -105,7 +114,14 @@ void PaintEclipticPlane(SolarCanvas& canvas) {
 void PaintOrbitalPlanes(SolarCanvas& canvas) {
   PaintEclipticPlane(canvas);
   for (const SkyBody body : kSunCircling) {
-    if (canvas.frame.display.Of(body).orbitalPlane) PaintOrbitalPlane(canvas, body);
+    if (!canvas.frame.display.Of(body).orbitalPlane) continue;
+    PaintOrbitalPlane(canvas, OrbitOf(body, canvas.frame.scene.jdTt),
+                      QColor::fromRgb(RowOf(body).color));
+  }
+  for (const auto* bodies : {&canvas.frame.scene.comets, &canvas.frame.scene.minorPlanets}) {
+    for (const SceneSmallBody& body : *bodies) {
+      if (body.aids.orbitalPlane) PaintOrbitalPlane(canvas, body.orbit, CometPoints::Color());
+    }
   }
 }
 

@@ -87,7 +87,7 @@ TEST_F(SceneTest, CometsFollowTheirSwitchesAndTheLimit) {
   const Scene limited = Build();
   EXPECT_GT(limited.comets.size(), 0U);
   EXPECT_LT(limited.comets.size(), 100U);
-  for (const SceneComet& comet : limited.comets) EXPECT_LE(comet.magnitude, 12.0);
+  for (const SceneSmallBody& comet : limited.comets) EXPECT_LE(comet.magnitude, 12.0);
   engine_.Doit(QStringLiteral("Solar.Comet.Visible = FALSE"));
   EXPECT_TRUE(Build().comets.empty());
 }

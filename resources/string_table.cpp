@@ -146,6 +146,8 @@ constexpr NumberedText kTexts[] = {
   {13473, u"軌道要素ファイルの名前を変更できません。\r\n一時ファイル：%s\r\n軌道要素ファイル：%s"},
   {13474, u"この認識符号はすでに使用されています。"},
   {13475, u"Dialog\\PlanetTex"},
+  {13476, u"この画像ファイルフォーマットには対応していません。\r\n%s"},
+  {13477, u"画像ファイルが見つかりません。\r\n%s"},
   {13478, u"Dialog\\ZodicalLight"},
   {13479, u"Dialog\\Solar"},
   {13480, u"Dialog\\DustTrail"},

@@ -115,10 +115,4 @@ DiskOrientation OrientationOf(Body body, double jdTt, const Vector3& fromObserve
   return {centre.longitudeDeg, centre.latitudeDeg, PositionAngleDeg(fromObserver, pole, north)};
 }
 
-Matrix3 BodyFromDisk(double centralLongitudeDeg, double centralLatitudeDeg) {
-  // Disk z, x, y become the body frame's x, y, z before the two turns.
-  const Matrix3 axes{{{{0.0, 0.0, 1.0}, {1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}}}};
-  return FrameRotationZ(-centralLongitudeDeg) * FrameRotationY(centralLatitudeDeg) * axes;
-}
-
 }  // namespace vyn

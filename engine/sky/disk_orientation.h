@@ -3,6 +3,7 @@
 
 #include "engine/sky/bodies.h"
 #include "siblings/astro/direction_cosines.h"
+#include "siblings/astro/disk_frame.h"
 
 namespace vyn {
 
@@ -28,10 +29,5 @@ struct DiskOrientation {
 /// told. Both in the ecliptic of J2000.
 DiskOrientation OrientationOf(Body body, double jdTt, const Vector3& fromObserver,
                               const Vector3& north);
-
-/// The rotation with which the dialog of sunspots turns a point of the disk: from the frame of the
-/// disk, x to the right, y up and z towards the observer, with the body's axis upright, to the
-/// frame fixed to the body. Made of the central longitude ("CM") and latitude ("De").
-Matrix3 BodyFromDisk(double centralLongitudeDeg, double centralLatitudeDeg);
 
 }  // namespace vyn

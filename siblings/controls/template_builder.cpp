@@ -77,8 +77,7 @@ class Builder {
     layout->setSizeConstraint(QLayout::SetMinimumSize);
     Add(layout, dialogTemplate.content, dialog_);
     // The buttons at the bottom stand off from what the dialog is about.
-    auto* content = static_cast<QBoxLayout*>(layout->itemAt(0)->layout());
-    content->insertSpacing(content->count() - 1, kBottomLineGap);
+    layout->itemAt(0)->layout()->setSpacing(kBottomLineGap);
     NameLabelsAndGroups();
     SetTabOrder();
     return std::move(set_);

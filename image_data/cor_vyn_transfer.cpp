@@ -1,5 +1,7 @@
 #include "image_data/cor_vyn_transfer.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
 
 #include "core_link/reply.h"
@@ -99,6 +101,12 @@ double SignedDegrees(int negative, int degrees, int minutes, int seconds) {
   return negative != 0 ? -angle : angle;
 }
 
-QString SixDecimals(double value) { return QString::number(value, 'f', 6); }
+/// As printf writes it: the toolkit's own conversion would lose the sign of a zero.
+QString SixDecimals(double value) {
+  std::array<char, 400> text{};
+  const auto [end, error] =
+      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, 6);
+  return QString::fromLatin1(text.data(), end - text.data());
+}
 
 }  // namespace vyn

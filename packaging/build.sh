@@ -3,7 +3,7 @@
 
 packages=(
   build-essential cmake ninja-build pkg-config
-  qt6-base-dev qt6-image-formats-plugins libgl-dev liberfa-dev
+  qt6-base-dev libgl-dev liberfa-dev libcfitsio-dev libsquish-dev
   libgtest-dev libbenchmark-dev strace
   fonts-ipafont-gothic
 )

@@ -24,15 +24,15 @@ bool IsRoot(const QString& path, qsizetype slash) {
   return slash == 0 || (slash == 2 && path.at(1) == u':');
 }
 
-/// The path as this system opens it. A file there may have a backslash in its name, so the path as
-/// given comes first.
-bool IsFile(const QString& path) { return QFileInfo(path).isFile(); }
-
 }  // namespace
 
 bool CCommonFile::DoesFileExist(const QString& path) {
-  if (path.isEmpty()) return false;
-  return IsFile(path) || IsFile(QString(path).replace(u'\\', u'/'));
+  return !path.isEmpty() && QFileInfo(OpenablePath(path)).isFile();
+}
+
+/// A file may have a backslash in its name, so the path as given comes first.
+QString CCommonFile::OpenablePath(const QString& path) {
+  return QFileInfo::exists(path) ? path : QString(path).replace(u'\\', u'/');
 }
 
 QString CCommonFile::GetPathName(const QString& path) {

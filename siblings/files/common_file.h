@@ -6,11 +6,15 @@
 namespace vyn {
 
 /// Paths are taken with either slash on every system, because settings and data sets written on one
-/// are read on another. Nothing here but DoesFileExist looks at the disk.
+/// are read on another. Only DoesFileExist and OpenablePath look at the disk.
 class CCommonFile {
  public:
   /// Whether there is a file (not a folder) at the path.
   static bool DoesFileExist(const QString& path);
+
+  /// The path as this system opens it: as given where there is such a file or folder, else with its
+  /// backslashes taken for slashes.
+  static QString OpenablePath(const QString& path);
 
   /// The folder part, without the slash behind it unless the folder is a root; empty when the path
   /// has none: "C:\data\comets.eld" gives "C:\data", "/comets.eld" gives "/".

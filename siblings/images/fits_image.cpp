@@ -1,0 +1,190 @@
+// FITS: the first image of a file, stretched to 8 bits. CFITSIO decodes it, from memory, so that no
+// part of a file's name means anything to it.
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <vector>
+
+#include <fitsio.h>
+
+#include "siblings/images/image_decoders.h"
+#include "siblings/images/image_limits.h"
+
+namespace vyn {
+namespace {
+
+constexpr int kMaxAxes = 9;
+constexpr int kColorPlanes = 3;
+/// More images than any real file has before its first that is not empty.
+constexpr int kMaxParts = 100;
+/// The part of the values that is cut off at either end.
+constexpr double kCutFraction = 0.0025;
+/// So many values, spread evenly, tell where to cut.
+constexpr std::size_t kMaxSamples = 1 << 20;
+
+/// A file held in memory, open for reading.
+class FitsFile {
+ public:
+  explicit FitsFile(const QByteArray& file)
+      : bytes_(const_cast<char*>(file.constData())), size_(static_cast<std::size_t>(file.size())) {
+    fits_open_memfile(&file_, "memory", READONLY, &bytes_, &size_, 0, nullptr, &status);
+  }
+  ~FitsFile() {
+    int closing = 0;
+    if (file_ != nullptr) fits_close_file(file_, &closing);
+    fits_clear_errmsg();
+  }
+  Q_DISABLE_COPY_MOVE(FitsFile)
+
+  fitsfile* Handle() const { return file_; }
+  bool IsGood() const { return status == 0; }
+
+  int status = 0;
+
+ private:
+  fitsfile* file_ = nullptr;
+  void* bytes_;
+  std::size_t size_;
+};
+
+struct FitsShape {
+  QSize size;
+  int planes = 1;
+  int bytesPerValue = 1;
+};
+
+/// Tiles larger than the image would ask for memory that nothing accounts for.
+bool AreTilesSane(fitsfile* file, QSize size) {
+  int status = 0;
+  if (!fits_is_compressed_image(file, &status)) return true;
+  const std::array<std::pair<const char*, int>, 2> limits{
+      {{"ZTILE1", size.width()}, {"ZTILE2", size.height()}}};
+  return std::all_of(limits.begin(), limits.end(), [file](const auto& limit) {
+    long side = 1;
+    int missing = 0;
+    fits_read_key(file, TLONG, limit.first, &side, nullptr, &missing);
+    return missing != 0 || (side >= 1 && side <= limit.second);
+  });
+}
+
+/// The shape of the image at which the file stands; nothing for an empty one.
+std::optional<FitsShape> ShapeOf(FitsFile& file) {
+  int bitsPerValue = 0;
+  int axes = 0;
+  std::array<long, kMaxAxes> lengths{};
+  fits_get_img_param(file.Handle(), kMaxAxes, &bitsPerValue, &axes, lengths.data(), &file.status);
+  if (!file.IsGood() || axes < 2 || axes > kMaxAxes) return std::nullopt;
+  if (lengths[0] < 1 || lengths[1] < 1) return std::nullopt;
+  const auto side = [&](int axis) {
+    return static_cast<int>(std::min<long>(lengths[axis], 1 << 30));
+  };
+  const bool hasColors = axes >= 3 && lengths[2] == kColorPlanes;
+  return FitsShape{{side(0), side(1)}, hasColors ? kColorPlanes : 1, std::abs(bitsPerValue) / 8};
+}
+
+/// Goes to the first part that holds an image.
+std::optional<FitsShape> FindImage(FitsFile& file) {
+  for (int part = 1; part <= kMaxParts && file.IsGood(); ++part) {
+    int kind = 0;
+    fits_movabs_hdu(file.Handle(), part, &kind, &file.status);
+    if (!file.IsGood()) break;
+    if (kind != IMAGE_HDU) continue;
+    if (const auto shape = ShapeOf(file)) return shape;
+  }
+  return std::nullopt;
+}
+
+bool IsAllowed(FitsFile& file, const FitsShape& shape, qint64 fileSize) {
+  if (!IsImageSizeAllowed(shape.size, shape.planes * static_cast<int>(sizeof(float)))) return false;
+  if (!AreTilesSane(file.Handle(), shape.size)) return false;
+  int status = 0;
+  if (fits_is_compressed_image(file.Handle(), &status)) return true;
+  return PixelCount(shape.size) * shape.planes * shape.bytesPerValue <= fileSize;
+}
+
+std::vector<float> ReadValues(FitsFile& file, const FitsShape& shape) {
+  std::vector<float> values(static_cast<std::size_t>(PixelCount(shape.size)) * shape.planes);
+  float blank = std::numeric_limits<float>::quiet_NaN();
+  int hasBlanks = 0;
+  fits_read_img(file.Handle(), TFLOAT, 1, static_cast<LONGLONG>(values.size()), &blank,
+                values.data(), &hasBlanks, &file.status);
+  if (!file.IsGood()) values.clear();
+  return values;
+}
+
+/// From the value that becomes black to the one that becomes white.
+struct Stretch {
+  float black = 0.0f;
+  float white = 0.0f;
+
+  uchar Grey(float value) const {
+    if (!(value > black)) return 0;  // also for what is no number
+    if (value >= white) return 255;
+    return static_cast<uchar>((value - black) / (white - black) * 255.0f + 0.5f);
+  }
+};
+
+Stretch StretchOf(const std::vector<float>& values) {
+  const std::size_t stride = values.size() / kMaxSamples + 1;
+  std::vector<float> samples;
+  samples.reserve(values.size() / stride + 1);
+  for (std::size_t i = 0; i < values.size(); i += stride) {
+    if (std::isfinite(values[i])) samples.push_back(values[i]);
+  }
+  if (samples.empty()) return {};
+  const auto valueAt = [&samples](double fraction) {
+    const auto place =
+        samples.begin() + std::lround(fraction * static_cast<double>(samples.size() - 1));
+    std::nth_element(samples.begin(), place, samples.end());
+    return *place;
+  };
+  return {valueAt(kCutFraction), valueAt(1.0 - kCutFraction)};
+}
+
+/// Rows are stored from the bottom up.
+const float* RowOf(const std::vector<float>& values, QSize size, int plane, int row) {
+  const qint64 fromBottom = size.height() - 1 - row;
+  return values.data() + plane * PixelCount(size) + fromBottom * size.width();
+}
+
+QImage GreyImage(const std::vector<float>& values, QSize size, const Stretch& stretch) {
+  QImage image(size, QImage::Format_Grayscale8);
+  for (int row = 0; row < size.height(); ++row) {
+    const float* source = RowOf(values, size, 0, row);
+    std::transform(source, source + size.width(), image.scanLine(row),
+                   [&stretch](float value) { return stretch.Grey(value); });
+  }
+  return image;
+}
+
+QImage ColorImage(const std::vector<float>& values, QSize size, const Stretch& stretch) {
+  QImage image(size, QImage::Format_RGB32);
+  for (int row = 0; row < size.height(); ++row) {
+    auto* line = reinterpret_cast<QRgb*>(image.scanLine(row));
+    const float* red = RowOf(values, size, 0, row);
+    const float* green = RowOf(values, size, 1, row);
+    const float* blue = RowOf(values, size, 2, row);
+    for (int x = 0; x < size.width(); ++x) {
+      line[x] = qRgb(stretch.Grey(red[x]), stretch.Grey(green[x]), stretch.Grey(blue[x]));
+    }
+  }
+  return image;
+}
+
+}  // namespace
+
+QImage DecodeFits(const QByteArray& file) {
+  FitsFile fits(file);
+  if (!fits.IsGood()) return {};
+  const auto shape = FindImage(fits);
+  if (!shape || !IsAllowed(fits, *shape, file.size())) return {};
+  const std::vector<float> values = ReadValues(fits, *shape);
+  if (values.empty()) return {};
+  const Stretch stretch = StretchOf(values);
+  return shape->planes == kColorPlanes ? ColorImage(values, shape->size, stretch)
+                                       : GreyImage(values, shape->size, stretch);
+}
+
+}  // namespace vyn

@@ -1,0 +1,321 @@
+// Image files of every kind, real ones against their known pixels and made ones with hostile
+// contents.
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <limits>
+
+#include <QBuffer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+#include <QtEndian>
+
+#include "siblings/images/image_file.h"
+
+namespace vyn {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QString DataPath(const char* name) {
+  return QStringLiteral(VYN_TEST_DATA "/") + QString::fromLatin1(name);
+}
+
+/// Writes bytes to a file under the name and loads it.
+QImage Load(const QByteArray& bytes, const QString& name) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(name);
+  QFile file(path);
+  EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(bytes);
+  file.close();
+  return LoadImageFile(path);
+}
+
+QByteArray Bytes(const char* name) {
+  QFile file(DataPath(name));
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+  return file.readAll();
+}
+
+QByteArray Encoded(const QImage& image, const char* format) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  EXPECT_TRUE(image.save(&buffer, format));
+  return bytes;
+}
+
+/// The mean difference of a channel; far off for images of different sizes.
+double Difference(const QImage& a, const QImage& b) {
+  if (a.size() != b.size() || a.isNull()) return 1e9;
+  const QImage left = a.convertToFormat(QImage::Format_ARGB32);
+  const QImage right = b.convertToFormat(QImage::Format_ARGB32);
+  double sum = 0.0;
+  for (int y = 0; y < left.height(); ++y) {
+    const uchar* p = left.constScanLine(y);
+    const uchar* q = right.constScanLine(y);
+    for (int i = 0; i < 4 * left.width(); ++i) sum += std::abs(p[i] - q[i]);
+  }
+  return sum / (4.0 * left.width() * left.height());
+}
+
+struct RealCase {
+  const char* file;
+  const char* expected;
+  double tolerance;
+};
+
+class RealImage : public testing::TestWithParam<RealCase> {};
+
+TEST_P(RealImage, LooksAsItShould) {
+  const QImage expected(DataPath(GetParam().expected));
+  EXPECT_LE(Difference(LoadImageFile(DataPath(GetParam().file)), expected), GetParam().tolerance);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , RealImage,
+    testing::Values(RealCase{"earth_512x256.png", "earth_512x256.png", 0.0},
+                    RealCase{"earth_512x256_alpha.png", "earth_512x256_alpha.png", 0.0},
+                    RealCase{"earth_512x256_exif6.jpg", "earth_512x256.png", 4.0},
+                    RealCase{"earth_512x256_dxt1.dds", "earth_512x256.png", 4.0},
+                    RealCase{"earth_512x256_alpha_dxt5_mips.dds", "earth_512x256_alpha.png", 4.0},
+                    RealCase{"earth_512x256_rle32.tga", "earth_512x256_alpha.png", 0.0}),
+    [](const auto& info) {
+      return QString::fromLatin1(info.param.file).replace(u'.', u'_').toStdString();
+    });
+
+TEST(ImageFile, IsKnownByItsContent) {
+  const QImage expected(DataPath("earth_512x256.png"));
+  EXPECT_EQ(Difference(Load(Bytes("earth_512x256.png"), u"a.fits"_s), expected), 0.0);
+  EXPECT_LE(Difference(Load(Bytes("earth_512x256_dxt1.dds"), u"a.jpg"_s), expected), 4.0);
+  EXPECT_TRUE(Load("GIF89a\1\0\1\0\0\0\0,", u"a.png"_s).isNull());
+  EXPECT_TRUE(Load("", u"a.png"_s).isNull());
+  EXPECT_TRUE(LoadImageFile(u"/no/such/file.png"_s).isNull());
+  EXPECT_TRUE(LoadImageFile(QStringLiteral(VYN_TEST_DATA)).isNull());
+}
+
+TEST(ImageFile, CutShortIsRefused) {
+  for (const char* name : {"earth_512x256.png", "earth_512x256_exif6.jpg", "earth_512x256_dxt1.dds",
+                           "earth_512x256_rle32.tga", "made_sun193_256_int16.fits",
+                           "made_sun193_256_tile_rice_1.fits"}) {
+    const QByteArray whole = Bytes(name);
+    for (const qsizetype length : {whole.size() * 2 / 5, qsizetype{60}, qsizetype{7}}) {
+      EXPECT_TRUE(Load(whole.first(length), QString::fromLatin1(name)).isNull())
+          << name << ' ' << length;
+    }
+  }
+  const QByteArray bmp = Encoded(QImage(DataPath("earth_512x256.png")), "BMP");
+  EXPECT_FALSE(Load(bmp, u"a.bmp"_s).isNull());
+  EXPECT_TRUE(Load(bmp.first(bmp.size() / 2), u"a.bmp"_s).isNull());
+}
+
+TEST(ImageFile, ABitmapMayLackItsFileHeader) {
+  const QImage expected(DataPath("earth_512x256.png"));
+  EXPECT_EQ(Difference(Load(Encoded(expected, "BMP").sliced(14), u"a.dib"_s), expected), 0.0);
+}
+
+template <class Number>
+void Put(QByteArray& bytes, qsizetype offset, Number number) {
+  qToLittleEndian(number, bytes.data() + offset);
+}
+
+TEST(ImageFile, TooLargeIsRefusedBeforeMemoryIsTaken) {
+  QImage line(40'000, 1, QImage::Format_Grayscale8);
+  line.fill(0);
+  EXPECT_TRUE(Load(Encoded(line, "PNG"), u"wide.png"_s).isNull());
+  QByteArray tga(18, '\0');
+  tga[2] = 10;
+  Put<quint16>(tga, 12, 32'000);
+  Put<quint16>(tga, 14, 32'000);
+  tga[16] = 24;
+  EXPECT_TRUE(Load(tga + "\xFF\1\2\3", u"bomb.tga"_s).isNull());
+  QByteArray dds = Bytes("earth_512x256_dxt1.dds");
+  Put<quint32>(dds, 12, 0xFFFFFFFF);
+  Put<quint32>(dds, 16, 0x80000000);
+  EXPECT_TRUE(Load(dds, u"bomb.dds"_s).isNull());
+  QByteArray bmp = Encoded(QImage(DataPath("earth_512x256.png")), "BMP");
+  Put<qint32>(bmp, 18, 30'000);
+  Put<qint32>(bmp, 22, -30'000);
+  EXPECT_TRUE(Load(bmp, u"bomb.bmp"_s).isNull());
+}
+
+QByteArray TgaHeader(int imageType, int width, int height, int bits, int descriptor) {
+  QByteArray header(18, '\0');
+  header[2] = static_cast<char>(imageType);
+  Put<quint16>(header, 12, static_cast<quint16>(width));
+  Put<quint16>(header, 14, static_cast<quint16>(height));
+  header[16] = static_cast<char>(bits);
+  header[17] = static_cast<char>(descriptor);
+  return header;
+}
+
+TEST(Tga, EachKindOfPixel) {
+  const QImage bottomUp = Load(TgaHeader(2, 1, 2, 24, 0) + "\1\2\3\4\5\6", u"a.tga"_s);
+  EXPECT_EQ(bottomUp.pixel(0, 1), qRgb(3, 2, 1));
+  EXPECT_EQ(bottomUp.pixel(0, 0), qRgb(6, 5, 4));
+  const QImage mirrored = Load(TgaHeader(3, 2, 1, 8, 0x30) + "\x10\x20", u"a.trg"_s);
+  EXPECT_EQ(mirrored.pixel(0, 0), qRgb(0x20, 0x20, 0x20));
+  const QImage packed = Load(TgaHeader(2, 1, 1, 16, 0x20) + "\x1F\x7C", u"a.tga"_s);
+  EXPECT_EQ(packed.pixel(0, 0), qRgb(255, 0, 255));
+  QByteArray mapped = TgaHeader(9, 3, 1, 8, 0x20);
+  mapped[1] = 1;
+  Put<quint16>(mapped, 5, 2);
+  mapped[7] = 24;
+  const QByteArray mapAndPackets("\1\1\1\2\2\2\x81\1\0\7", 10);
+  const QImage colors = Load(mapped + mapAndPackets, u"a.tga"_s);
+  EXPECT_EQ(colors.pixel(0, 0), qRgb(2, 2, 2));
+  EXPECT_EQ(colors.pixel(1, 0), qRgb(2, 2, 2));
+  EXPECT_EQ(colors.pixel(2, 0), qRgb(0, 0, 0));  // beyond the map
+}
+
+TEST(Dds, UncompressedPixelsFollowTheirMasks) {
+  QByteArray dds(128, '\0');
+  dds.replace(0, 4, "DDS ");
+  Put<quint32>(dds, 12, 1);
+  Put<quint32>(dds, 16, 2);
+  Put<quint32>(dds, 80, 0x41);
+  Put<quint32>(dds, 88, 16);
+  Put<quint32>(dds, 92, 0x0F00);
+  Put<quint32>(dds, 96, 0x00F0);
+  Put<quint32>(dds, 100, 0x000F);
+  Put<quint32>(dds, 104, 0xF000);
+  const QImage image = Load(dds + QByteArray("\x21\xF3\x0F\x00", 4), u"a.dds"_s);
+  EXPECT_EQ(image.pixel(0, 0), qRgba(0x33, 0x22, 0x11, 0xFF));
+  EXPECT_TRUE(Load(dds + "\x21\xF3", u"a.dds"_s).isNull());
+}
+
+/// A FITS file of one part for each call.
+class FitsWriter {
+ public:
+  FitsWriter& Part(const QByteArray& firstCard, const std::vector<QByteArray>& cards,
+                   const QByteArray& data) {
+    QByteArray header = Card(firstCard);
+    for (const QByteArray& card : cards) header += Card(card);
+    bytes_ += Filled(header + Card("END"), ' ') + Filled(data, '\0');
+    return *this;
+  }
+  const QByteArray& Bytes() const { return bytes_; }
+
+ private:
+  static QByteArray Card(const QByteArray& text) { return text.leftJustified(80, ' '); }
+  static QByteArray Filled(QByteArray bytes, char fill) {
+    return bytes.leftJustified((bytes.size() + 2879) / 2880 * 2880, fill);
+  }
+
+  QByteArray bytes_;
+};
+
+const QByteArray kSimple = "SIMPLE  =                    T";
+
+QByteArray IntCard(const char* key, int value) {
+  return QByteArray(key).leftJustified(8, ' ') + "= " +
+         QByteArray::number(value).rightJustified(20);
+}
+
+template <class Number>
+QByteArray BigEndian(const std::vector<double>& values) {
+  QByteArray bytes;
+  for (const double value : values) {
+    char text[sizeof(Number)];
+    qToBigEndian(static_cast<Number>(value), text);
+    bytes.append(text, sizeof(Number));
+  }
+  return bytes;
+}
+
+std::vector<QByteArray> Shape(int bitpix, std::initializer_list<int> lengths) {
+  std::vector<QByteArray> cards{IntCard("BITPIX", bitpix),
+                                IntCard("NAXIS", static_cast<int>(lengths.size()))};
+  int axis = 0;
+  for (const int length : lengths) {
+    cards.push_back(IntCard(("NAXIS" + std::to_string(++axis)).c_str(), length));
+  }
+  return cards;
+}
+
+/// A ramp of 0, 1 ... 5, upwards row by row, is black at the bottom left.
+void ExpectRamp(const QImage& image) {
+  ASSERT_EQ(image.size(), QSize(3, 2));
+  EXPECT_EQ(qGray(image.pixel(0, 1)), 0);
+  EXPECT_EQ(qGray(image.pixel(2, 1)), 102);
+  EXPECT_EQ(qGray(image.pixel(0, 0)), 153);
+  EXPECT_EQ(qGray(image.pixel(2, 0)), 255);
+}
+
+TEST(Fits, EveryKindOfNumberIsStretched) {
+  const std::vector<double> ramp{0, 1, 2, 3, 4, 5};
+  const std::pair<int, QByteArray> cases[] = {
+      {8, BigEndian<quint8>(ramp)},  {16, BigEndian<qint16>(ramp)}, {32, BigEndian<qint32>(ramp)},
+      {64, BigEndian<qint64>(ramp)}, {-32, BigEndian<float>(ramp)}, {-64, BigEndian<double>(ramp)},
+  };
+  for (const auto& [bitpix, data] : cases) {
+    SCOPED_TRACE(bitpix);
+    ExpectRamp(Load(FitsWriter().Part(kSimple, Shape(bitpix, {3, 2}), data).Bytes(), u"a.fit"_s));
+  }
+}
+
+TEST(Fits, HonoursScaleAndBlanks) {
+  auto cards = Shape(16, {3, 2});
+  cards.push_back("BSCALE  =                 -2.0");
+  cards.push_back("BZERO   =              32768.0");
+  const QByteArray falling = BigEndian<qint16>({0, -1, -2, -3, -4, -5});
+  ExpectRamp(Load(FitsWriter().Part(kSimple, cards, falling).Bytes(), u"a.fts"_s));
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const QImage holed =
+      Load(FitsWriter()
+               .Part(kSimple, Shape(-32, {3, 2}), BigEndian<float>({10, nan, 12, 13, 14, 15}))
+               .Bytes(),
+           u"a.fits"_s);
+  EXPECT_EQ(qGray(holed.pixel(1, 1)), 0);
+  EXPECT_EQ(qGray(holed.pixel(2, 1)), 102);
+}
+
+TEST(Fits, TakesTheFirstImageAndColorPlanes) {
+  FitsWriter extended;
+  extended.Part(kSimple, {IntCard("BITPIX", 8), IntCard("NAXIS", 0)}, {});
+  auto cards = Shape(8, {3, 2});
+  cards.push_back(IntCard("PCOUNT", 0));
+  cards.push_back(IntCard("GCOUNT", 1));
+  extended.Part("XTENSION= 'IMAGE   '", cards, BigEndian<quint8>({0, 1, 2, 3, 4, 5}));
+  ExpectRamp(Load(extended.Bytes(), u"a.fits"_s));
+  const QByteArray planes = BigEndian<quint8>({0, 255, 255, 0, 0, 0});
+  const QImage colors =
+      Load(FitsWriter().Part(kSimple, Shape(8, {2, 1, 3}), planes).Bytes(), u"a.fits"_s);
+  EXPECT_EQ(colors.pixel(0, 0), qRgb(0, 255, 0));
+  EXPECT_EQ(colors.pixel(1, 0), qRgb(255, 0, 0));
+}
+
+TEST(Fits, TilesAreTheSameImage) {
+  const QImage plain = LoadImageFile(DataPath("made_sun193_256_int16.fits"));
+  EXPECT_EQ(plain.size(), QSize(256, 256));
+  EXPECT_LE(Difference(LoadImageFile(DataPath("made_sun193_256_tile_rice_1.fits")), plain), 1.0);
+}
+
+TEST(Fits, HostileHeadersAreRefused) {
+  const QByteArray data(2880, '\1');
+  EXPECT_TRUE(
+      Load(FitsWriter().Part(kSimple, Shape(-64, {30'000, 30'000}), data).Bytes(), u"a.fits"_s)
+          .isNull());
+  EXPECT_TRUE(
+      Load(FitsWriter().Part(kSimple, Shape(8, {100'000, 2}), data).Bytes(), u"a.fits"_s).isNull());
+  EXPECT_TRUE(
+      Load(FitsWriter().Part(kSimple, Shape(17, {3, 2}), data).Bytes(), u"a.fits"_s).isNull());
+  QByteArray tiles = Bytes("made_sun193_256_tile_rice_1.fits");
+  const qsizetype tile = tiles.indexOf("ZTILE1");
+  ASSERT_GT(tile, 0);
+  tiles.replace(tile + 10, 20, QByteArray("2000000000").rightJustified(20));
+  EXPECT_TRUE(Load(tiles, u"a.fits"_s).isNull());
+}
+
+}  // namespace
+}  // namespace vyn
+
+int main(int argc, char** argv) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  testing::InitGoogleTest(&argc, argv);
+  const QGuiApplication application(argc, argv);
+  return RUN_ALL_TESTS();
+}

@@ -192,6 +192,13 @@ void CVynDialog::ShowSlider(int id, int position) {
   static_cast<QSlider*>(GetDlgItem(id))->setValue(position);
 }
 
+void CVynDialog::OnTextChanged(int id, std::function<void()> handler) {
+  connect(static_cast<QLineEdit*>(GetDlgItem(id)), &QLineEdit::textChanged, this,
+          [this, handler = std::move(handler)] {
+            if (!exchanging_) handler();
+          });
+}
+
 void CVynDialog::ShowInformation(const QString& text) {
   QMessageBox(QMessageBox::Information, windowTitle(), text, QMessageBox::Ok, this).exec();
 }

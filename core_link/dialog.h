@@ -105,12 +105,10 @@ class VYN_EXPORT CVynDialog : public QDialog, public CVynDialogBase {
   template <class Dialog>
   void OnTextChanged(std::initializer_list<int> ids, void (Dialog::*handler)()) {
     for (const int id : ids) {
-      connect(static_cast<QLineEdit*>(GetDlgItem(id)), &QLineEdit::textChanged, this,
-              [this, handler] {
-                if (!exchanging_) (static_cast<Dialog*>(this)->*handler)();
-              });
+      OnTextChanged(id, [this, handler] { (static_cast<Dialog*>(this)->*handler)(); });
     }
   }
+  void OnTextChanged(int id, std::function<void()> handler);
 
   /// Calls `handler` with the position when the user moves a slider, but not while it is placed by
   /// ShowSlider.

@@ -132,13 +132,6 @@ void ClampGroup(std::span<const NumberField> fields, FieldGroup group, DataSetRe
   }
 }
 
-bool IsSameGroup(std::span<const NumberField> fields, FieldGroup group, const DataSetRecord& a,
-                 const DataSetRecord& b) {
-  return std::ranges::all_of(fields, [&](const NumberField& field) {
-    return field.group != group || field.Value(a) == field.Value(b);
-  });
-}
-
 void FixDay(DataSetRecord& record) {
   record.day = FixDayLimit(record.year, record.month, record.day);
 }

@@ -63,10 +63,6 @@ std::span<const NumberField> SunspotFields();     ///< beside the date
 /// Puts the numbers of one group into their ranges.
 void ClampGroup(std::span<const NumberField> fields, FieldGroup group, DataSetRecord& record);
 
-/// Whether the numbers of one group are the same in both records.
-bool IsSameGroup(std::span<const NumberField> fields, FieldGroup group, const DataSetRecord& a,
-                 const DataSetRecord& b);
-
 /// Puts the day into its month.
 void FixDay(DataSetRecord& record);
 

@@ -75,4 +75,9 @@ QString PaddedDateText(const CalendarDate& date) {
                                     Padded(static_cast<int>(date.second)));
 }
 
+QString CompactDateText(const CalendarDate& date) {
+  return QString::number(date.year) + Padded(date.month) + Padded(date.day) + Padded(date.hour) +
+         Padded(date.minute) + Padded(static_cast<int>(date.second));
+}
+
 }  // namespace vyn

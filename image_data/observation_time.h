@@ -44,4 +44,7 @@ QString PlainDateText(const CalendarDate& date);
 /// "2024/04/09 03:20:05", seconds truncated; the year is not padded.
 QString PaddedDateText(const CalendarDate& date);
 
+/// "20240409032005", seconds truncated, for the names of files.
+QString CompactDateText(const CalendarDate& date);
+
 }  // namespace vyn

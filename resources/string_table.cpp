@@ -81,6 +81,8 @@ constexpr NumberedText kTexts[] = {
   {13361, u"Dialog\\NSat"},
   {13362, u"Solar.Planet.Satellite.Name.Color"},
   {13363, u"Dialog\\SunMoon"},
+  {13364, u"Dialog\\SunSpot"},
+  {13365, u"Dialog\\TakenImg"},
   {13368, u"表示倍率には %d から %d までの値を入力してください。"},
   {13374, u"Dialog\\Comet"},
   {13375, u"Dialog\\MinorPlanet"},

@@ -16,6 +16,8 @@ std::vector<DialogTemplate> All() {
           ZodiacalLight(),
           Meteorite(),
           DustTrail(),
+          Corona(),
+          Sunspot(),
           Solar()};
 }
 

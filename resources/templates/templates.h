@@ -19,6 +19,8 @@ DialogTemplate Solar();
 DialogTemplate ZodiacalLight();
 DialogTemplate Meteorite();
 DialogTemplate DustTrail();
+DialogTemplate Corona();
+DialogTemplate Sunspot();
 
 std::vector<DialogTemplate> All();
 

@@ -11,6 +11,7 @@
 
 #include "siblings/controls/controls.h"
 #include "siblings/controls/object_list_box.h"
+#include "siblings/controls/preview.h"
 #include "siblings/controls/satellite_list_box.h"
 
 namespace vyn {
@@ -194,6 +195,8 @@ class Builder {
         return new QComboBox(parent);
       case ControlKind::Progress:
         return NewProgress(item, parent);
+      case ControlKind::Preview:
+        return NewPreview(item, parent);
       default:
         qFatal("no widget for the kind of control %d", item.id);
     }
@@ -229,6 +232,14 @@ class Builder {
     bar->setRange(0, 100);
     bar->setMinimumWidth(WidthOf(bar, item.widthChars));
     return bar;
+  }
+
+  /// A square, of an even number of pixels so that it has a middle.
+  static QWidget* NewPreview(const TemplateItem& item, QWidget* parent) {
+    auto* preview = new CVynPreview(parent);
+    const int side = WidthOf(preview, item.widthChars) / 2 * 2;
+    preview->setFixedSize(side, side);
+    return preview;
   }
 
   template <class List>

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "image_data/corona_dialog.h"
+#include "image_data/sunspot_dialog.h"
 #include "major_bodies/dwarf_planet_dialog.h"
 #include "major_bodies/planet_dialog.h"
 #include "major_bodies/satellite_dialog.h"
@@ -46,6 +48,7 @@ struct DialogClass {
 constexpr std::array kClasses = {
     DialogClass{u"CDlgCometTail", MakeCometTail},
     DialogClass{u"CDlgDustTrail", Make<CDlgDustTrail>},
+    DialogClass{u"CDlgCorona", Make<CDlgCorona>},
     DialogClass{u"CDlgDwarfPlanet", Make<CDlgDwarfPlanet>},
     DialogClass{u"CDlgElementImportBlankID", MakeBlankIdQuestion},
     DialogClass{u"CDlgElementImportDuplicate", MakeDuplicateQuestion},
@@ -55,6 +58,7 @@ constexpr std::array kClasses = {
     DialogClass{u"CDlgSat", Make<CDlgSat>},
     DialogClass{u"CDlgSolar", Make<CDlgSolar>},
     DialogClass{u"CDlgSun", Make<CDlgSun>},
+    DialogClass{u"CDlgSunSpot", Make<CDlgSunSpot>},
     DialogClass{u"CDlgZodiacalLight", Make<CDlgZodiacalLight>},
 };
 

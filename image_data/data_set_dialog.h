@@ -1,0 +1,114 @@
+// What the dialogs on dated data sets share: the record of the selected set, its numbers with their
+// edits and spin buttons, the transfer to and from the core engine, and the status snapshot.
+#pragma once
+
+#include <initializer_list>
+#include <vector>
+
+#include "core_link/dialog.h"
+#include "image_data/cor_vyn_transfer.h"
+#include "image_data/data_set_record.h"
+#include "image_data/number_field.h"
+
+class QListWidget;
+
+namespace vyn {
+
+class CVynPreview;
+
+/// A derived class names its numbers, moves its members (TransferMembers) and states its rules of
+/// enabling (UpdateStatus). Every change is sent at once as a whole set; Cancel restores the
+/// snapshot that the core engine took at opening.
+class VYN_EXPORT CDataSetDialog : public CVynDialog {
+  Q_OBJECT
+
+ protected:
+  CDataSetDialog(CCorVyn* commandHandle, CCorVyn* secondHandle, int templateNumber,
+                 const QString& registryKey,
+                 std::initializer_list<std::span<const NumberField>> fields, QWidget* parent);
+  ~CDataSetDialog() override;
+
+  bool OnInitDialog() override;
+  void AttachControls() override;
+  void DoDataExchange(CDataExchange& exchange) override;
+  void OnOK() override;
+  void OnCancel() override;
+
+  // What a dialog states.
+
+  /// Moves the members of layer and set in the dialog's fixed order.
+  virtual void TransferMembers(const CorVynTransfer& transfer) = 0;
+  /// Enables what the values shown allow.
+  virtual void UpdateStatus() = 0;
+  /// Shows what the controls outside the data exchange show of the record: the preview.
+  virtual void Repaint() = 0;
+  /// Names the sets without a file and lets the core engine write all.
+  virtual void SaveData() {}
+  /// The path of the body that is magnified and centred.
+  virtual QString BodyPath() const = 0;
+
+  /// A number was typed and is in its range, or was changed by its spin button.
+  virtual void OnNumberTyped(const NumberField& field);
+  virtual void OnNumberStepped(const NumberField& field);
+  /// Puts what was typed into its range.
+  virtual void ClampTyped(const NumberField& field);
+
+  // The core engine.
+
+  /// Sends one command and returns the reply; nothing without a core engine.
+  QString Send(const QString& command);
+  QString Ask(const QString& path);
+  int AskInt(const QString& path);
+  double AskDouble(const QString& path);
+  CorVynTransfer Transfer(TransferDirection direction);
+
+  /// The whole set, in one direction: reads the controls first; redraws after sending, shows the
+  /// values after reading.
+  void UpdateCorVyn(TransferDirection direction);
+  void SendSet() { UpdateCorVyn(TransferDirection::Send); }
+  void ReadSet() { UpdateCorVyn(TransferDirection::Read); }
+
+  /// The planetarium's moment in its own time zone.
+  ObservationTime AskTime();
+  void MakeStatus();
+  void PlayStatus();
+  void ChangeDiskMag();
+  /// Turns the view to the body.
+  void ChangeViewCenter();
+
+  // Controls.
+
+  void Pull();
+  void Push();
+  /// The selected row of a list box, -1 for none.
+  int SelectedRow(int listId) const;
+  /// Selects a row without notification; -1 for none.
+  void SelectRow(int listId, int row);
+  QListWidget* List(int id) const;
+  CVynPreview* Preview() const;
+  /// Calls the handler when the user selects a row of a list box or combo box.
+  template <class Dialog>
+  void OnSelected(int id, void (Dialog::*handler)()) {
+    ConnectSelection(id, [this, handler] { (static_cast<Dialog*>(this)->*handler)(); });
+  }
+
+  void OnBnClickedChkVisible();
+
+  DataSetRecord record_;
+
+ private:
+  void AttachNumber(const NumberField& field);
+  void ConnectSelection(int id, const std::function<void()>& handler);
+  void OnEnChange(const NumberField& field);
+  void OnDeltaposSpn(const NumberField& field, int delta);
+  void FinishTyping();
+  bool KeepsItsText(const NumberField& field) const;
+
+  const std::vector<NumberField> fields_;
+  /// The number whose edit is being typed in, while its change is carried out.
+  const NumberField* typed_ = nullptr;
+  /// The number whose text is still below its range, as "0" on the way to "0.5".
+  const NumberField* unfinished_ = nullptr;
+};
+
+}  // namespace vyn

@@ -112,7 +112,7 @@ constexpr Row kSingle[]{
   {u"Solar.Comet.ID.Color",                           u"#80ffc0"},
   {u"Solar.Comet.ID.Font",                            u"IPAGothic,9"},
   {u"Solar.Comet.*.AutoEmissionSpan",                 u"TRUE"},
-  {u"Solar.Comet.*.DustTail.EmissionSpan",            u"10"},
+  {u"Solar.Comet.*.DustTail.EmissionSpan",            u"30"},
   {u"Solar.Comet.*.DustTail.BetaMin",                 u"-1"},
   {u"Solar.Comet.*.DustTail.BetaMax",                 u"-1"},
   {u"Solar.Comet.*.IonTail.EmissionSpan",             u"3"},

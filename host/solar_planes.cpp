@@ -6,6 +6,7 @@
 
 #include "host/line_builder.h"
 #include "host/point_batches.h"
+#include "host/small_body_style.h"
 #include "host/solar_canvas.h"
 #include "host/vector_registers.h"
 #include "siblings/astro/angles.h"
@@ -20,11 +21,6 @@ constexpr int kSouthAlpha = 24;
 constexpr double kFarthestAu = 200.0;
 
 using Area = std::vector<Vector3>;
-
-QColor WithAlpha(QColor color, int alpha) {
-  color.setAlpha(alpha);
-  return color;
-}
 
 /// The part of a convex area where `height`, which is linear, is not below 0.
 /// Source: Sutherland and Hodgman 1974.

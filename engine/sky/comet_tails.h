@@ -16,7 +16,7 @@ namespace vyn {
 
 /// Which grains make a dust tail up.
 struct DustTailGrains {
-  double emissionSpanDays = 10.0;  ///< the oldest left so long ago; 0 or greater
+  double emissionSpanDays = 30.0;  ///< the oldest left so long ago; 0 or greater
   double betaMin = 0.2;            ///< light pressure over gravity; 0 or greater
   double betaMax = 1.0;
 };

@@ -43,6 +43,12 @@ constexpr std::array<QRgb, 12> kSymbolColors{
 };
 // clang-format on
 
+struct TailColumns {
+  const SwitchColumn* isOn;
+  const SwitchColumn* outline;
+  const SwitchColumn* surface;
+};
+
 /// Reads one kind's objects.
 class SmallBodyReader {
  public:
@@ -53,7 +59,9 @@ class SmallBodyReader {
         table_(engine.Elements(kind)),
         switches_(engine.Switches(kind)),
         places_(engine.PlacesAt(kind, scene.jdTt,
-                                {scene.viewpoint.position, scene.viewpoint.velocity})) {}
+                                {scene.viewpoint.position, scene.viewpoint.velocity})) {
+    for (std::size_t i = 0; i < aids_.size(); ++i) aids_[i] = Column(kAidSwitches[i].feature);
+  }
 
   const SmallBodyPlaces& Places() const { return places_; }
 
@@ -77,35 +85,41 @@ class SmallBodyReader {
                         places_.Magnitude(object)};
     if (!HasAids(object)) return body;
     body.name = Name(object);
-    for (const AidSwitch& row : kAidSwitches) body.aids.*row.value = IsOn(object, row.feature);
+    for (std::size_t i = 0; i < aids_.size(); ++i) {
+      body.aids.*kAidSwitches[i].value = aids_[i]->IsOn(object);
+    }
     body.orbit = table_.BodyAt(object, scene_.jdTt).orbit;
     if (kind_ == ElementKind::Comet) ReadTails(&body);
     return body;
   }
 
  private:
-  bool IsOn(int object, QStringView feature) const {
-    return switches_[ObjectSwitchOf(feature)].IsOn(object);
+  const SwitchColumn* Column(QStringView feature) const {
+    return &switches_[ObjectSwitchOf(feature)];
+  }
+
+  TailColumns ColumnsOf(const QString& tail) const {
+    return {Column(tail), Column(QString(tail + u".Outline")), Column(QString(tail + u".Surface"))};
   }
 
   /// Few comets have a Japanese name; the others are called by their English one in both languages.
   QString Name(int object) const {
     QString name;
-    const bool isJapanese = IsOn(object, u"JapaneseName.Visible");
+    const bool isJapanese = japaneseName_->IsOn(object);
     if (isJapanese) name = table_.JapaneseName(object);
-    if (name.isEmpty() && (isJapanese || IsOn(object, u"EnglishName.Visible"))) {
+    if (name.isEmpty() && (isJapanese || englishName_->IsOn(object))) {
       name = table_.EnglishName(object);
     }
-    if (!IsOn(object, u"ID.Visible")) return name;
+    if (!identifier_->IsOn(object)) return name;
     const QString identifier = table_.Identifier(object);
     return name.isEmpty() ? identifier : identifier + u' ' + name;
   }
 
   /// A tail of which neither the outline nor the surface is chosen has its surface.
   template <typename Facts>
-  SceneTail<Facts> Tail(int object, QStringView path, const Facts& facts) const {
-    const bool outline = IsOn(object, QString(path + u".Outline"));
-    return {facts, outline, !outline || IsOn(object, QString(path + u".Surface"))};
+  SceneTail<Facts> Tail(int object, const TailColumns& columns, const Facts& facts) const {
+    const bool outline = columns.outline->IsOn(object);
+    return {facts, outline, !outline || columns.surface->IsOn(object)};
   }
 
   void ReadTails(SceneSmallBody* body) const {
@@ -117,12 +131,12 @@ class SmallBodyReader {
     const auto number = [&](QStringView feature, double fallback) {
       return engine_.Number(QString(path + feature), fallback);
     };
-    if (IsOn(object, u"DustTail")) {
-      body->dustTail = Tail(object, u"DustTail", GrainsOf(object, number, factor));
+    if (dustTail_.isOn->IsOn(object)) {
+      body->dustTail = Tail(object, dustTail_, GrainsOf(object, number, factor));
     }
-    if (IsOn(object, u"IonTail")) {
+    if (ionTail_.isOn->IsOn(object)) {
       body->ionTail =
-          Tail(object, u"IonTail",
+          Tail(object, ionTail_,
                IonTailSpan{std::max(0.0, number(u".IonTail.EmissionSpan", 3.0)) * factor});
     }
   }
@@ -147,6 +161,13 @@ class SmallBodyReader {
   const ElementTable& table_;
   const ObjectSwitches& switches_;
   const SmallBodyPlaces& places_;
+  // Looked up once: there may be a million objects to ask for.
+  std::array<const SwitchColumn*, std::size(kAidSwitches)> aids_{};
+  const SwitchColumn* japaneseName_ = Column(u"JapaneseName.Visible");
+  const SwitchColumn* englishName_ = Column(u"EnglishName.Visible");
+  const SwitchColumn* identifier_ = Column(u"ID.Visible");
+  TailColumns dustTail_ = ColumnsOf(u"DustTail"_s);
+  TailColumns ionTail_ = ColumnsOf(u"IonTail"_s);
 };
 
 /// On a crowded picture only bright comets are named.

@@ -27,7 +27,7 @@ QImage Picture(ReferenceEngine& engine) {
 }
 
 constexpr char16_t kSpace[] =
-    u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 2";
+    u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 3";
 constexpr char16_t kSky[] = u"View.Projection = Stereographic; View.Coordinate = Ecliptic";
 
 struct SwitchCase {
@@ -60,7 +60,7 @@ constexpr SwitchCase kCases[]{
     {"outline", u"Solar.Comet.No2.DustTail = true", u"Solar.Comet.No2.DustTail.Outline = true",
      true, true},
     {"emission", u"Solar.Comet.No2.DustTail = true",
-     u"Solar.Comet.No2.Dusttail.EmissionSpan = 30.000000", true, true},
+     u"Solar.Comet.No2.Dusttail.EmissionSpan = 50.000000", true, true},
     {"beta_max", u"Solar.Comet.No2.DustTail = true", u"Solar.Comet.No2.Dusttail.BetaMax = 3.000000",
      true, true},
     {"beta_min", u"Solar.Comet.No2.DustTail = true", u"Solar.Comet.No2.Dusttail.BetaMin = 0.900000",

@@ -5,6 +5,7 @@
 #include <thread>
 #include <vector>
 
+#include "elements/line_scan.h"
 #include "siblings/files/disk_file.h"
 #include "tools/vyn-eld/command.h"
 #include "tools/vyn-eld/mpc_line.h"
@@ -127,17 +128,34 @@ class Conversion {
       std::vector<char>& block = blocks[i % 2];
       count = from_.ReadAt(position, block.data(), kBlockSize);
       if (count < 0) break;
-      std::string_view text(block.data(), static_cast<std::size_t>(count));
-      const std::size_t lastEnd = text.rfind('\n');
-      // What follows the last line's end comes with the next block.
-      if (count == kBlockSize && lastEnd != text.npos) text = text.substr(0, lastEnd + 1);
-      position += static_cast<std::int64_t>(text.size());
+      const std::string_view text =
+          WholeLines({block.data(), static_cast<std::size_t>(count)}, count == kBlockSize);
+      position = text.ends_with('\n') || count < kBlockSize
+                     ? position + static_cast<std::int64_t>(text.size())
+                     : NextLine(position);
       auto parts = Begin(text);
       for (auto& part : before) Add(part.get(), bar);
       before = std::move(parts);
     }
     for (auto& part : before) Add(part.get(), bar);
     return count >= 0;
+  }
+
+  /// What follows the last line's end comes with the next block. Of a line that is longer than a
+  /// block the beginning is enough to tell that it is none of elements.
+  static std::string_view WholeLines(std::string_view text, bool goesOn) {
+    if (!goesOn) return text;
+    constexpr std::size_t kBeginning = 1024;
+    const std::size_t lastEnd = text.rfind('\n');
+    return text.substr(0, lastEnd == text.npos ? kBeginning : lastEnd + 1);
+  }
+
+  std::int64_t NextLine(std::int64_t position) const {
+    ForEachLine(from_, position, [&position](std::int64_t at, std::string_view line) {
+      position = at + static_cast<std::int64_t>(line.size());
+      return !line.ends_with('\n');
+    });
+    return position;
   }
 
   std::vector<std::future<Part>> Begin(std::string_view text) {

@@ -39,11 +39,14 @@ std::optional<int> Base62Number(std::string_view text) {
   return number;
 }
 
-/// "K25" is 2025; the letters I to L are the centuries from 1800 on.
+/// "K25" is 2025: a letter for the century, A being 1000.
 std::optional<int> UnpackYear(std::string_view packed) {
-  if (packed[0] < 'I' || packed[0] > 'L' || !AreDigits(packed.substr(1, 2))) return std::nullopt;
-  return 1800 + (packed[0] - 'I') * 100 + NumberOf(packed.substr(1, 2));
+  if (packed[0] < 'A' || packed[0] > 'L' || !AreDigits(packed.substr(1, 2))) return std::nullopt;
+  return 1000 + (packed[0] - 'A') * 100 + NumberOf(packed.substr(1, 2));
 }
+
+/// Minor planets have been found since 1801.
+bool IsSinceFirst(const std::optional<int>& year) { return year && *year >= 1800; }
 
 /// How often the letters were gone through: "00" to "99", then "A0" (100) to "z9" (619).
 std::optional<int> UnpackCycle(std::string_view packed) {
@@ -95,7 +98,8 @@ std::string UnpackMinorPlanet(std::string_view packed) {
   if (packed[2] == 'S') return UnpackSurvey(packed);
   const auto year = UnpackYear(packed);
   const auto cycle = UnpackCycle(packed.substr(4, 2));
-  if (!year || !cycle || !IsHalfMonth(packed[3]) || !IsObjectLetter(packed[6])) return {};
+  const bool areLetters = IsHalfMonth(packed[3]) && IsObjectLetter(packed[6]);
+  if (!IsSinceFirst(year) || !cycle || !areLetters) return {};
   return Designation(*year, packed[3], packed.substr(6, 1), *cycle);
 }
 
@@ -117,7 +121,7 @@ std::optional<PackedDate> UnpackDate(std::string_view packed) {
   const auto year = UnpackYear(packed);
   const int month = Base62Digit(packed[3]);
   const int day = Base62Digit(packed[4]);
-  if (!year || month < 1 || month > 12 || day < 1 || day > 31) return std::nullopt;
+  if (!IsSinceFirst(year) || month < 1 || month > 12 || day < 1 || day > 31) return std::nullopt;
   return PackedDate{*year, month, day};
 }
 

@@ -23,20 +23,13 @@ class WaitCursor {
   Q_DISABLE_COPY_MOVE(WaitCursor)
 };
 
-std::vector<NumberField> Joined(std::initializer_list<std::span<const NumberField>> parts) {
-  std::vector<NumberField> fields;
-  for (const auto& part : parts) fields.insert(fields.end(), part.begin(), part.end());
-  return fields;
-}
-
 }  // namespace
 
 CDataSetDialog::CDataSetDialog(CCorVyn* commandHandle, CCorVyn* secondHandle, int templateNumber,
                                const QString& registryKey,
                                std::initializer_list<std::span<const NumberField>> fields,
                                QWidget* parent)
-    : CVynDialog(commandHandle, secondHandle, templateNumber, registryKey, parent),
-      fields_(Joined(fields)) {}
+    : CNumberDialog(commandHandle, secondHandle, templateNumber, registryKey, fields, parent) {}
 
 CDataSetDialog::~CDataSetDialog() = default;
 
@@ -44,71 +37,21 @@ CDataSetDialog::~CDataSetDialog() = default;
 
 bool CDataSetDialog::OnInitDialog() {
   record_ = {};
-  CVynDialog::OnInitDialog();
-  Push();
-  return true;
-}
-
-void CDataSetDialog::AttachControls() {
-  CVynDialog::AttachControls();
-  for (const NumberField& field : fields_) AttachNumber(field);
-}
-
-/// What is typed as altitude waits for the next change of something else.
-void CDataSetDialog::AttachNumber(const NumberField& field) {
-  OnSpin(field.spin, [this, &field](int delta) { OnDeltaposSpn(field, delta); });
-  if (field.group == FieldGroup::Altitude) return;
-  OnTextChanged(field.edit, [this, &field] { OnEnChange(field); });
-  connect(static_cast<QLineEdit*>(GetDlgItem(field.edit)), &QLineEdit::editingFinished, this,
-          &CDataSetDialog::FinishTyping);
-}
-
-void CDataSetDialog::DoDataExchange(CDataExchange& exchange) {
-  for (const NumberField& field : fields_) {
-    if (!exchange.Saving() && KeepsItsText(field)) continue;
-    QString text = field.Text(record_);
-    exchange.Text(field.edit, text);
-    if (exchange.Saving()) field.SetText(record_, text);
-  }
+  return CNumberDialog::OnInitDialog();
 }
 
 void CDataSetDialog::OnOK() {
   Pull();
   SaveData();
-  CVynDialog::OnOK();
+  CNumberDialog::OnOK();
 }
 
 void CDataSetDialog::OnCancel() {
   PlayStatus();
-  CVynDialog::OnCancel();
+  CNumberDialog::OnCancel();
 }
 
 // Numbers.
-
-void CDataSetDialog::OnEnChange(const NumberField& field) {
-  Pull();
-  unfinished_ = field.Value(record_) < field.minimum ? &field : nullptr;
-  typed_ = &field;
-  ClampTyped(field);
-  Push();
-  OnNumberTyped(field);
-  typed_ = nullptr;
-}
-
-/// Who types "0.2" must not find "0.000" after the first key: the text stays as long as it means
-/// the value, and also while it is below its range, which what is typed next may mend.
-bool CDataSetDialog::KeepsItsText(const NumberField& field) const {
-  if (&field != typed_) return false;
-  DataSetRecord shown = record_;
-  field.SetText(shown, EditText(field.edit));
-  return &field == unfinished_ || field.Text(shown) == field.Text(record_);
-}
-
-void CDataSetDialog::ClampTyped(const NumberField& field) {
-  ClampGroup(fields_, field.group, record_);
-  if (field.group == FieldGroup::Site) ClampGroup(fields_, FieldGroup::Altitude, record_);
-  if (field.group == FieldGroup::Date) FixDay(record_);
-}
 
 void CDataSetDialog::OnNumberTyped(const NumberField& field) {
   if (field.group == FieldGroup::Magnification) return ChangeDiskMag();
@@ -116,36 +59,10 @@ void CDataSetDialog::OnNumberTyped(const NumberField& field) {
   Repaint();
 }
 
-void CDataSetDialog::OnDeltaposSpn(const NumberField& field, int delta) {
-  Pull();
-  field.Step(record_, delta);
-  FixDay(record_);
-  Push();
-  OnNumberStepped(field);
-}
-
 void CDataSetDialog::OnNumberStepped(const NumberField& field) {
   if (field.group == FieldGroup::Magnification) ChangeDiskMag();
   SendSet();
   Repaint();
-}
-
-void CDataSetDialog::FinishTyping() {
-  if (unfinished_ == nullptr) return;
-  Pull();
-  Push();
-}
-
-void CDataSetDialog::Pull() {
-  UpdateData(true);
-  if (unfinished_ != nullptr) {
-    unfinished_->SetValue(record_, unfinished_->Clamped(unfinished_->Value(record_)));
-  }
-}
-
-void CDataSetDialog::Push() {
-  if (typed_ == nullptr) unfinished_ = nullptr;
-  UpdateData(false);
 }
 
 // The core engine.

@@ -1,14 +1,9 @@
-// What the dialogs on dated data sets share: the record of the selected set, its numbers with their
-// edits and spin buttons, the transfer to and from the core engine, and the status snapshot.
+// What the dialogs on dated data sets share: the transfer of the selected set to and from the core
+// engine, and the status snapshot.
 #pragma once
 
-#include <initializer_list>
-#include <vector>
-
-#include "core_link/dialog.h"
 #include "image_data/cor_vyn_transfer.h"
-#include "image_data/data_set_record.h"
-#include "image_data/number_field.h"
+#include "image_data/number_dialog.h"
 
 class QListWidget;
 
@@ -19,7 +14,7 @@ class CVynPreview;
 /// A derived class names its numbers, moves its members (TransferMembers) and states its rules of
 /// enabling (UpdateStatus). Every change is sent at once as a whole set; Cancel restores the
 /// snapshot that the core engine took at opening.
-class VYN_EXPORT CDataSetDialog : public CVynDialog {
+class VYN_EXPORT CDataSetDialog : public CNumberDialog {
   Q_OBJECT
 
  protected:
@@ -29,8 +24,6 @@ class VYN_EXPORT CDataSetDialog : public CVynDialog {
   ~CDataSetDialog() override;
 
   bool OnInitDialog() override;
-  void AttachControls() override;
-  void DoDataExchange(CDataExchange& exchange) override;
   void OnOK() override;
   void OnCancel() override;
 
@@ -47,11 +40,8 @@ class VYN_EXPORT CDataSetDialog : public CVynDialog {
   /// The path of the body that is magnified and centred.
   virtual QString BodyPath() const = 0;
 
-  /// A number was typed and is in its range, or was changed by its spin button.
-  virtual void OnNumberTyped(const NumberField& field);
-  virtual void OnNumberStepped(const NumberField& field);
-  /// Puts what was typed into its range.
-  virtual void ClampTyped(const NumberField& field);
+  void OnNumberTyped(const NumberField& field) override;
+  void OnNumberStepped(const NumberField& field) override;
 
   // The core engine.
 
@@ -72,14 +62,12 @@ class VYN_EXPORT CDataSetDialog : public CVynDialog {
   ObservationTime AskTime();
   void MakeStatus();
   void PlayStatus();
-  void ChangeDiskMag();
+  virtual void ChangeDiskMag();
   /// Turns the view to the body.
   void ChangeViewCenter();
 
   // Controls.
 
-  void Pull();
-  void Push();
   /// The selected row of a list box, -1 for none.
   int SelectedRow(int listId) const;
   /// Selects a row without notification; -1 for none.
@@ -94,21 +82,8 @@ class VYN_EXPORT CDataSetDialog : public CVynDialog {
 
   void OnBnClickedChkVisible();
 
-  DataSetRecord record_;
-
  private:
-  void AttachNumber(const NumberField& field);
   void ConnectSelection(int id, const std::function<void()>& handler);
-  void OnEnChange(const NumberField& field);
-  void OnDeltaposSpn(const NumberField& field, int delta);
-  void FinishTyping();
-  bool KeepsItsText(const NumberField& field) const;
-
-  const std::vector<NumberField> fields_;
-  /// The number whose edit is being typed in, while its change is carried out.
-  const NumberField* typed_ = nullptr;
-  /// The number whose text is still below its range, as "0" on the way to "0.5".
-  const NumberField* unfinished_ = nullptr;
 };
 
 }  // namespace vyn

@@ -30,11 +30,17 @@ std::optional<Spherical> SunDisk::GetSunLocation(QPoint point) const {
   return place;
 }
 
-std::optional<QPoint> SunDisk::GetSunPoint(double longitudeDeg, double latitudeDeg) const {
+std::optional<QPointF> SunDisk::Project(double longitudeDeg, double latitudeDeg) const {
   const Vector3 seen = RotateDc(Transposed(sunFromDisk_), AdToDc(longitudeDeg, latitudeDeg));
   if (seen.z < 0.0) return std::nullopt;
-  return centre_ + QPoint(static_cast<int>(std::lround(seen.x * radius_)),
-                          static_cast<int>(-std::lround(seen.y * radius_)));
+  return QPointF(centre_) + QPointF(seen.x, -seen.y) * radius_;
+}
+
+std::optional<QPoint> SunDisk::GetSunPoint(double longitudeDeg, double latitudeDeg) const {
+  const auto point = Project(longitudeDeg, latitudeDeg);
+  if (!point) return std::nullopt;
+  return QPoint(static_cast<int>(std::lround(point->x())),
+                static_cast<int>(std::lround(point->y())));
 }
 
 }  // namespace vyn

@@ -24,7 +24,9 @@ class SunDisk {
   /// off the disk.
   std::optional<Spherical> GetSunLocation(QPoint point) const;
 
-  /// Where a heliographic place is seen, rounded to whole pixels; nothing on the far side.
+  /// Where a heliographic place is seen; nothing on the far side.
+  std::optional<QPointF> Project(double longitudeDeg, double latitudeDeg) const;
+  /// The same rounded to whole pixels.
   std::optional<QPoint> GetSunPoint(double longitudeDeg, double latitudeDeg) const;
 
  private:

@@ -47,10 +47,10 @@ void DrawGrid(QPainter& painter, const SunDisk& disk) {
   painter.setPen(QColor(150, 90, 20, 110));
   painter.setBrush(Qt::NoBrush);
   for (int latitude = -60; latitude <= 60; latitude += kGridStepDeg) {
-    DrawGridLine(painter, 0, 360, [&](int deg) { return disk.GetSunPoint(deg, latitude); });
+    DrawGridLine(painter, 0, 360, [&](int deg) { return disk.Project(deg, latitude); });
   }
   for (int longitude = 0; longitude < 360; longitude += kGridStepDeg) {
-    DrawGridLine(painter, -90, 90, [&](int deg) { return disk.GetSunPoint(longitude, deg); });
+    DrawGridLine(painter, -90, 90, [&](int deg) { return disk.Project(longitude, deg); });
   }
 }
 

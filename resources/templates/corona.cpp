@@ -14,7 +14,8 @@ DialogTemplate Corona() {
         PreviewFrame(),
         row(button(11161, u"星図中央に表示(&P)"), stretch(),
             label(12001, u"視野角："), NumberWithUnit(12002, 12003, 12004, u"度", 4)),
-        PlacementGroup()),
+        PlacementGroup(),
+        stretch()),
       column(
         titled(group(11160, u"",
           check(11108, u"コロナ表示(&C)："),
@@ -37,7 +38,8 @@ DialogTemplate Corona() {
                 NumberWithUnit(11139, 11158, kNoControlId, u"分"),
                 NumberWithUnit(11159, 11183, kNoControlId, u"秒")),
             row(label(11177, u"標高"), NumberWithUnit(11178, 11179, kNoControlId, u"m", 4))),
-          row(stretch(), button(11142, u"星図に設定(&S)"))))))};
+          row(stretch(), button(11142, u"星図に設定(&S)"))),
+        stretch())))};
   // clang-format on
 }
 

@@ -17,7 +17,7 @@ TemplateItem NumberWithUnit(int edit, int spin, int unit, const char16_t* unitTe
 /// Year, month and day above hour, minute and second.
 TemplateItem DateRows();
 /// Offsets, radius and roll; `more` goes on below them.
-TemplateItem PlacementGroup(TemplateItem more = layout::stretch());
+TemplateItem PlacementGroup(TemplateItem more = layout::row());
 /// The bottom line of a dialog that is cancelled by the keyboard and the close box only.
 TemplateItem WithHiddenCancel(TemplateItem content, TemplateItem left = layout::stretch());
 

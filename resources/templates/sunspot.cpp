@@ -32,7 +32,8 @@ DialogTemplate Sunspot() {
         group(11143, u"表示設定(&E)：",
           row(label(11093, u"経度："), NumberWithUnit(11094, 11095, kNoControlId, u"度", 6),
               label(11096, u"緯度："), NumberWithUnit(11097, 11098, kNoControlId, u"度", 6),
-              label(11090, u"タイプ："), NumberWithUnit(11091, 11092, kNoControlId, u""))))))};
+              label(11090, u"タイプ："), NumberWithUnit(11091, 11092, kNoControlId, u""))),
+        stretch())))};
   // clang-format on
 }
 

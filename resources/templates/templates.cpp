@@ -18,6 +18,9 @@ std::vector<DialogTemplate> All() {
           DustTrail(),
           Corona(),
           Sunspot(),
+          TakenImage(),
+          TakenImageNew(),
+          PlanetTexture(),
           Solar()};
 }
 

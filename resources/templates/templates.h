@@ -21,6 +21,9 @@ DialogTemplate Meteorite();
 DialogTemplate DustTrail();
 DialogTemplate Corona();
 DialogTemplate Sunspot();
+DialogTemplate TakenImage();
+DialogTemplate TakenImageNew();
+DialogTemplate PlanetTexture();
 
 std::vector<DialogTemplate> All();
 

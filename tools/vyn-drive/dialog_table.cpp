@@ -4,7 +4,9 @@
 #include <array>
 
 #include "image_data/corona_dialog.h"
+#include "image_data/planet_texture_dialog.h"
 #include "image_data/sunspot_dialog.h"
+#include "image_data/taken_image_dialog.h"
 #include "major_bodies/dwarf_planet_dialog.h"
 #include "major_bodies/planet_dialog.h"
 #include "major_bodies/satellite_dialog.h"
@@ -55,10 +57,12 @@ constexpr std::array kClasses = {
     DialogClass{u"CDlgElementManEdit", MakeElementEditor},
     DialogClass{u"CDlgMeteorite", Make<CDlgMeteorite>},
     DialogClass{u"CDlgPlanet", Make<CDlgPlanet>},
+    DialogClass{u"CDlgPlanetTex", Make<CDlgPlanetTex>},
     DialogClass{u"CDlgSat", Make<CDlgSat>},
     DialogClass{u"CDlgSolar", Make<CDlgSolar>},
     DialogClass{u"CDlgSun", Make<CDlgSun>},
     DialogClass{u"CDlgSunSpot", Make<CDlgSunSpot>},
+    DialogClass{u"CDlgTakenImg", Make<CDlgTakenImg>},
     DialogClass{u"CDlgZodiacalLight", Make<CDlgZodiacalLight>},
 };
 

@@ -23,7 +23,9 @@ using namespace Qt::StringLiterals;
 void ClickItem(QAbstractItemView& view, const QModelIndex& index) {
   view.scrollTo(index);
   Settle();
-  ClickAt(*view.viewport(), view.visualRect(index).center());
+  // A row may be wider than what is seen of it.
+  const QRect seen = view.visualRect(index).intersected(view.viewport()->rect());
+  ClickAt(*view.viewport(), seen.center());
 }
 
 class ItemList final : public ListControl {

@@ -59,4 +59,11 @@ void CDataExchange::DDX_Double(int id, double& value, int maxChars, int maxDecim
   if (saving_) value = reply::ToDouble(text);
 }
 
+void CDataExchange::DDX_DoubleFmt(int id, double& value, int decimals, int maxChars) {
+  QString text = QString::number(value, 'f', decimals);
+  while (text.size() > maxChars && decimals > 0) text = QString::number(value, 'f', --decimals);
+  Text(id, text);
+  if (saving_) value = reply::ToDouble(text);
+}
+
 }  // namespace vyn

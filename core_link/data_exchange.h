@@ -29,6 +29,9 @@ class VYN_EXPORT CDataExchange {
   /// A real number in an edit, shown by the shortest text that keeps its hundredths (or so many
   /// decimals) within `maxChars`; reads by the longest prefix, 0.0 where there is none.
   void DDX_Double(int id, double& value, int maxChars, int maxDecimals = 2);
+  /// The same, shown with `decimals` decimals, or fewer where the text would be longer than
+  /// `maxChars`.
+  void DDX_DoubleFmt(int id, double& value, int decimals, int maxChars);
 
  private:
   const ControlSet& controls_;

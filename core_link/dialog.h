@@ -70,6 +70,8 @@ class VYN_EXPORT CVynDialog : public QDialog, public CVynDialogBase {
   /// The dialog closes, by whatever way; its controls are still there.
   virtual void OnDestroy();
 
+  void keyPressEvent(QKeyEvent* event) override;
+
   /// Shows the members in the controls (false) or reads the controls into them (true). No handler
   /// of a change runs meanwhile.
   void UpdateData(bool save);
@@ -157,7 +159,6 @@ class VYN_EXPORT CVynDialog : public QDialog, public CVynDialogBase {
   void RestorePlacement();
   void SavePlacement();
   QString AskParent(quintptr which) const;
-  void keyPressEvent(QKeyEvent* event) override;
 
   CCorVyn* commandHandle_;
   CCorVyn* secondHandle_;

@@ -22,4 +22,9 @@ void CVynDialogBase::DrawCheckMark(QPainter& painter, const QWidget* owner, cons
   style->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter, owner);
 }
 
+int CVynDialogBase::IconSelector(const QWidget* control) {
+  constexpr int kMiddleGrey = 128;
+  return control->palette().color(QPalette::Window).lightness() >= kMiddleGrey ? 1 : 0;
+}
+
 }  // namespace vyn

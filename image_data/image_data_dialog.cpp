@@ -4,7 +4,6 @@
 #include "resources/string_table.h"
 #include "siblings/common_dialogs/open_file.h"
 #include "siblings/controls/preview.h"
-#include "siblings/files/common_file.h"
 
 namespace vyn {
 namespace {
@@ -86,7 +85,7 @@ void CImageDataDialog::OnBnClickedBtnSendDate() {
 
 void CImageDataDialog::OnBnClickedBtnTexFile() {
   Pull();
-  const QString path = ChooseFileToOpen(this, CCommonFile::GetPathName(record_.imagePath));
+  const QString path = AskAnyFile(this, record_.imagePath);
   if (path.isEmpty()) return;
   if (!IsReadExtensionType(path)) {
     ShowInformation(FilledString(kUnknownFormatText, {path}));

@@ -3,7 +3,6 @@
 #include "image_data/image_file_types.h"
 #include "resources/string_table.h"
 #include "siblings/common_dialogs/open_file.h"
-#include "siblings/files/common_file.h"
 
 namespace vyn {
 namespace {
@@ -37,7 +36,7 @@ void CDlgTakenImgNew::OnOK() {
 
 void CDlgTakenImgNew::OnBnClickedBtnTexFile() {
   Pull();
-  const QString path = ChooseFileToOpen(this, CCommonFile::GetPathName(record_.imagePath));
+  const QString path = AskAnyFile(this, record_.imagePath);
   if (path.isEmpty()) return;
   if (!IsReadExtensionType(path)) {
     ShowInformation(FilledString(kUnknownFormatText, {path}));

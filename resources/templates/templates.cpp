@@ -3,7 +3,9 @@
 namespace vyn::templates {
 
 std::vector<DialogTemplate> All() {
-  return {Planet(),
+  return {Comet(),
+          MinorPlanet(),
+          Planet(),
           Satellite(),
           CometTail(),
           Sun(),

@@ -5,6 +5,8 @@
 
 namespace vyn::templates {
 
+DialogTemplate Comet();
+DialogTemplate MinorPlanet();
 DialogTemplate Planet();
 DialogTemplate DwarfPlanet();
 DialogTemplate Satellite();

@@ -9,9 +9,18 @@ class QWidget;
 
 namespace vyn {
 
-/// The path of the existing file that the user chose, with the system's own slashes; empty when the
-/// user cancelled. All files are offered. Begins in `startFolder`, or among the user's pictures
-/// when there is no such folder.
-VYN_EXPORT QString ChooseFileToOpen(QWidget* parent, const QString& startFolder);
+struct OpenFileQuestion {
+  QString title;
+  QString filter;            ///< "name|patterns|", for several one behind the other
+  QString folder;            ///< where the dialog starts; empty for the current folder
+  QString defaultExtension;  ///< taken for a name typed without one
+  bool mustExist = true;
+};
+
+/// Any existing file, beginning in the folder of `currentPath`.
+VYN_EXPORT QString AskAnyFile(QWidget* parent, const QString& currentPath);
+
+/// The path of the chosen file as the system writes it; empty when the user cancelled.
+VYN_EXPORT QString AskOpenFile(QWidget* parent, const OpenFileQuestion& question);
 
 }  // namespace vyn

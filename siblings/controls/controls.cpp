@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyleOptionButton>
 #include <QStyleOptionSpinBox>
 #include <QTimerEvent>
 #include <QWheelEvent>
@@ -53,6 +54,31 @@ void CVynButton::SetColors(QRgb face, QRgb text, QRgb border) {
                                "QPushButton:focus { border: 1px solid %2; }"
                                "QPushButton:pressed { border: 1px inset %2; }")
                     .arg(CssColor(face), CssColor(text), CssColor(border)));
+}
+
+void CVynButton::SetPicture(const QPixmap& picture) {
+  picture_ = picture;
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  updateGeometry();
+  update();
+}
+
+QSize CVynButton::sizeHint() const {
+  constexpr int kMargin = 5;
+  if (picture_.isNull()) return QPushButton::sizeHint();
+  return picture_.deviceIndependentSize().toSize() + QSize(2 * kMargin, 2 * kMargin);
+}
+
+void CVynButton::paintEvent(QPaintEvent* event) {
+  if (picture_.isNull()) return QPushButton::paintEvent(event);
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  option.text.clear();
+  QPainter painter(this);
+  style()->drawControl(QStyle::CE_PushButton, &option, &painter, this);
+  style()->drawItemPixmap(
+      &painter, rect(), Qt::AlignCenter,
+      isEnabled() ? picture_ : style()->generatedIconPixmap(QIcon::Disabled, picture_, &option));
 }
 
 void CVynRadioButton::keyPressEvent(QKeyEvent* event) {

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPixmap>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -49,6 +50,16 @@ class VYN_EXPORT CVynButton : public QPushButton {
  public:
   using QPushButton::QPushButton;
   void SetColors(QRgb face, QRgb text, QRgb border);
+  /// Shows a picture of this size in place of the text, which stays the button's name.
+  void SetPicture(const QPixmap& picture);
+
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QPixmap picture_;
 };
 
 class VYN_EXPORT CVynCheckBox : public QCheckBox {

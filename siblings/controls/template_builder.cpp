@@ -160,7 +160,7 @@ class Builder {
     auto* layout = new QVBoxLayout(frame);
     auto children = std::span(item.children);
     if (item.titled) {
-      box->setTitle(QStringLiteral(" "));  // keeps the title's room
+      if (item.text.isEmpty()) box->setTitle(QStringLiteral(" "));  // keeps the title's room
       frame->SetTitleControl(MakeControl(children.front(), frame));
       children = children.subspan(1);
     }
@@ -184,7 +184,7 @@ class Builder {
       case ControlKind::Spin:
         return NewSpin(parent);
       case ControlKind::Slider:
-        return new QSlider(Qt::Horizontal, parent);
+        return NewSlider(item, parent);
       case ControlKind::List:
         return NewList<CVynListBox>(item, parent);
       case ControlKind::SatelliteList:
@@ -192,7 +192,7 @@ class Builder {
       case ControlKind::ObjectList:
         return NewObjectList(item, parent);
       case ControlKind::Combo:
-        return new QComboBox(parent);
+        return NewCombo(item, parent);
       case ControlKind::Progress:
         return NewProgress(item, parent);
       case ControlKind::Preview:
@@ -225,6 +225,18 @@ class Builder {
       label->setAlignment(Qt::AlignCenter);
     }
     return label;
+  }
+
+  static QWidget* NewSlider(const TemplateItem& item, QWidget* parent) {
+    auto* slider = new QSlider(Qt::Horizontal, parent);
+    slider->setMinimumWidth(WidthOf(slider, item.widthChars));
+    return slider;
+  }
+
+  static QWidget* NewCombo(const TemplateItem& item, QWidget* parent) {
+    auto* combo = new QComboBox(parent);
+    combo->setMinimumWidth(WidthOf(combo, item.widthChars));
+    return combo;
   }
 
   static QWidget* NewProgress(const TemplateItem& item, QWidget* parent) {

@@ -14,8 +14,10 @@
 #include "major_bodies/sun_dialog.h"
 #include "major_bodies/zodiacal_light_dialog.h"
 #include "small_bodies/comet_tail_dialog.h"
+#include "small_bodies/comet_dialog.h"
 #include "small_bodies/dust_trail_dialog.h"
 #include "small_bodies/meteorite_dialog.h"
+#include "small_bodies/minor_planet_dialog.h"
 #include "tools/vyn-drive/element_dialogs.h"
 #include "tools/vyn-drive/script.h"
 
@@ -49,6 +51,7 @@ struct DialogClass {
 // parent has a function of its own instead of Make.
 constexpr std::array kClasses = {
     DialogClass{u"CDlgCometTail", MakeCometTail},
+    DialogClass{u"CDlgComet", Make<CDlgComet>},
     DialogClass{u"CDlgDustTrail", Make<CDlgDustTrail>},
     DialogClass{u"CDlgCorona", Make<CDlgCorona>},
     DialogClass{u"CDlgDwarfPlanet", Make<CDlgDwarfPlanet>},
@@ -56,6 +59,7 @@ constexpr std::array kClasses = {
     DialogClass{u"CDlgElementImportDuplicate", MakeDuplicateQuestion},
     DialogClass{u"CDlgElementManEdit", MakeElementEditor},
     DialogClass{u"CDlgMeteorite", Make<CDlgMeteorite>},
+    DialogClass{u"CDlgMinorPlanet", Make<CDlgMinorPlanet>},
     DialogClass{u"CDlgPlanet", Make<CDlgPlanet>},
     DialogClass{u"CDlgPlanetTex", Make<CDlgPlanetTex>},
     DialogClass{u"CDlgSat", Make<CDlgSat>},

@@ -121,22 +121,18 @@ QString World::ReadElements(const QString& path) {
   return SameWord(word, u"DataPtr") ? elements->DataPtr() : QString();
 }
 
-/// What a loaded file adds to "Solar.Comet.OrbitalType" and "Solar.MinorPlanet.SpectralType".
+/// How many objects of the loaded file are of a spectral type. Told once the starting state has
+/// brought the types; the orbital types themselves are values of the tree.
 QString World::ReadTypes(const ElementClass& elements, QStringView feature) const {
-  const QStringView last = LastWord(feature);
-  const QStringView member = LastWord(ParentPath(feature));
-  if (IsWithin(feature, u"SpectralType")) {
-    const bool isLetter =
-        member.size() == 1 && member[0].toUpper() >= u'A' && member[0].toUpper() <= u'Z';
-    if (!isLetter || elements.Kind() == ElementKind::Comet) return {};
-    return QString::number(elements.Types().SpectralCount(member[0].toUpper().toLatin1()));
-  }
-  const auto types = OrbitalTypesOf(elements.Kind());
-  if (SameWord(feature, u"OrbitalType.Count")) return QString::number(types.size());
-  const auto number = static_cast<std::size_t>(reply::ToInt(member.sliced(1)));
-  if (number < 1 || number > types.size()) return {};
-  if (SameWord(last, u"ObjectName")) return types[number - 1].objectName.toString();
-  return SameWord(last, u"LocalName") ? types[number - 1].localName.toString() : QString();
+  const PropertyNode* types = tree_.Find(QString(elements.Path() + u".OrbitalType.Count"));
+  const QStringView letter = LastWord(ParentPath(feature));
+  const bool isLetter =
+      letter.size() == 1 && letter[0].toUpper() >= u'A' && letter[0].toUpper() <= u'Z';
+  const bool isTold = types != nullptr && types->hasValue && isLetter &&
+                      IsWithin(feature, u"SpectralType") &&
+                      elements.Kind() == ElementKind::MinorPlanet;
+  if (!isTold) return {};
+  return QString::number(elements.Types().SpectralCount(letter[0].toUpper().toLatin1()));
 }
 
 bool World::IsClassOn(const ElementClass& elements, QStringView feature) const {

@@ -158,6 +158,9 @@ TEST(SmallBodyTypesTest, SpectralTypesAreCountedByNumber) {
   const auto ask = [&](const QString& feature) {
     return engine.Doit(u"? Solar.MinorPlanet."_s + feature);
   };
+  EXPECT_EQ(ask(u"SpectralType.S.Count"_s), QString()) << "the bare engine knows no types";
+  engine.LoadStartingState();
+  engine.Doit(u"Solar.MinorPlanet.Individual.Visible = FALSE"_s);
   EXPECT_EQ(ask(u"SpectralType.S.Count"_s) + ask(u"SpectralType.m.Count"_s) +
                 ask(u"SpectralType.V.Count"_s) + ask(u"SpectralType.C.Count"_s),
             u"1110"_s);

@@ -87,10 +87,11 @@ void ElementFile::Release() {
 void ElementFile::ForgetKnowledge() {
   if (knowledge_) knowledge_->Forget();
   knowledge_.reset();
-  if (file_.IsOpen()) identity_ = file_.Identity().value_or(FileIdentity{});
+  if (file_.IsOpen()) NoteChange();
 }
 
 ElementKnowledge* ElementFile::Knowledge() {
+  if (knowledge_ && knowledge_->IsForgotten()) ForgetKnowledge();
   if (!knowledge_ && Open()) {
     knowledge_ =
         ElementKnowledge::Of(file_, identity_, ElementKnowledge::Wanted::PositionsAndIdentifiers);
@@ -173,10 +174,11 @@ bool ElementFile::ReplaceRecords(std::int64_t position, std::int64_t oldCount,
   if (!OpenForWriting()) return false;
   if (!IsAtRecord(position)) return Fail(13457, {QString::number(position)});
   if (!WriteAt(position, records)) return false;
-  if (!knowledge_) return true;
   const std::int64_t growth = std::max<std::int64_t>(newCount - oldCount, 0) * kElementRecordSize;
-  knowledge_->ObjectReplaced(position + growth, position, ViewOf(records.front()));
-  knowledge_->HoldsFor(file_);
+  if (knowledge_) {
+    knowledge_->ObjectReplaced(position + growth, position, ViewOf(records.front()));
+  }
+  NoteChange();
   return true;
 }
 
@@ -190,16 +192,21 @@ bool ElementFile::ReplaceUnchanged(std::int64_t position, const ElementRecords& 
 bool ElementFile::AppendRecords(const ElementRecords& records) {
   if (!OpenForWriting()) return false;
   const std::int64_t end = Size();
-  if (!IsAtRecord(end)) return Fail(13458, {QString::number(0)});
+  if (!IsAtRecord(end) || !EndsWithLine(end)) return Fail(13458, {QString::number(0)});
   if (!WriteAt(end, records)) {
     // A part of a record would shift all that is added later.
     file_.Truncate(end);
     return false;
   }
-  if (!knowledge_) return true;
-  knowledge_->ObjectAdded(end, ViewOf(records.front()));
-  knowledge_->HoldsFor(file_);
+  if (knowledge_) knowledge_->ObjectAdded(end, ViewOf(records.front()));
+  NoteChange();
   return true;
+}
+
+/// Behind a line without an end a new record would not begin one.
+bool ElementFile::EndsWithLine(std::int64_t end) const {
+  char last = '\n';
+  return end == 0 || (file_.ReadAt(end - 1, &last, 1) == 1 && last == '\n');
 }
 
 bool ElementFile::OpenForWriting() {
@@ -211,9 +218,16 @@ bool ElementFile::WriteAt(std::int64_t position, const ElementRecords& records) 
   const QByteArray bytes = std::accumulate(
       records.begin() + 1, records.end(), records.front(),
       [](QByteArray joined, const QByteArray& record) { return std::move(joined) += record; });
-  if (file_.WriteAt(position, ViewOf(bytes))) return true;
-  ForgetKnowledge();
-  return Fail(13466);
+  const bool isWritten = file_.WriteAt(position, ViewOf(bytes));
+  const auto lines = static_cast<std::size_t>(bytes.count('\n'));
+  if (!isWritten || lines != records.size()) ForgetKnowledge();
+  return isWritten || Fail(13466);
+}
+
+/// What is known holds for the file as it is now.
+void ElementFile::NoteChange() {
+  identity_ = file_.Identity().value_or(FileIdentity{});
+  if (knowledge_) knowledge_->HoldsFor(identity_);
 }
 
 bool ElementFile::ShiftElementRecord(std::int64_t position, std::int64_t delta) {
@@ -234,11 +248,11 @@ bool ElementFile::Rewrite(const std::vector<RecordChange>& changes) {
     return true;
   }
   file_ = std::move(result.file);
-  if (!knowledge_) return true;
   std::for_each(changes.rbegin(), changes.rend(), [this](const RecordChange& change) {
-    knowledge_->BytesShifted(change.position, (change.added - change.dropped) * kElementRecordSize);
+    const std::int64_t growth = (change.added - change.dropped) * kElementRecordSize;
+    if (knowledge_) knowledge_->BytesShifted(change.position, growth);
   });
-  knowledge_->HoldsFor(file_);
+  NoteChange();
   return true;
 }
 

@@ -76,14 +76,16 @@ class ElementFile {
 
   ElementKnowledge* Knowledge();
   bool OpenAndLock();
+  void NoteChange();
   bool Rewrite(const std::vector<RecordChange>& changes);
   bool WriteAt(std::int64_t position, const ElementRecords& records);
+  bool EndsWithLine(std::int64_t end) const;
   bool OpenForWriting();
   bool Fail(int message, std::initializer_list<QString> values = {});
 
   QString path_;
   DiskFile file_;
-  FileIdentity identity_;  ///< of the open file before this operation changed it
+  FileIdentity identity_;  ///< of the open file as it was last left
   bool isWritable_ = false;
   bool isGone_ =
       false;  ///< this operation has deleted the file and could not put the new one there

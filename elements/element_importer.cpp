@@ -184,11 +184,12 @@ int ElementImporter::ImportBlankIdRecord(Candidate& candidate, int* flags) {
       return kSkipped;
     }
     const QString identifier = Trimmed(answer.newIdentifier);
-    if (identifier.isEmpty()) {
+    const IdentifierKey key = IdentifierKey::OfText(identifier);
+    if (key.IsBlank()) {
       decisions_.ShowInformation(LoadString(13342));
       continue;
     }
-    const bool isTaken = target_.SearchObjectFileIndex(IdentifierKey::OfText(identifier)) >= 0;
+    const bool isTaken = target_.SearchObjectFileIndex(key) >= 0;
     // On purpose the question is not put again, as it is for a duplicate, and the button's number
     // is the result.
     if (isTaken) return decisions_.ShowInformation(LoadString(13474));
@@ -223,12 +224,12 @@ int ElementImporter::ImportDuplicateRecord(Candidate& candidate, int* flags, Imp
     }
     *flags |= import_flag::kDuplicateRenamed;
     const QString identifier = Trimmed(answer.newIdentifier);
-    const bool isTaken = target_.SearchObjectFileIndex(IdentifierKey::OfText(identifier)) >= 0;
-    if (!identifier.isEmpty() && !isTaken) {
+    const IdentifierKey key = IdentifierKey::OfText(identifier);
+    if (!key.IsBlank() && target_.SearchObjectFileIndex(key) < 0) {
       BlankIdentifier(candidate.records);
       return AppendRenamed(candidate, identifier, flags);
     }
-    decisions_.ShowInformation(LoadString(identifier.isEmpty() ? 13342 : 13474));
+    decisions_.ShowInformation(LoadString(key.IsBlank() ? 13342 : 13474));
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <bit>
 #include <future>
 #include <limits>
@@ -32,6 +33,10 @@ void KeepFirst(const std::shared_ptr<ElementKnowledge>& knowledge) {
 
 /// An import adds objects one by one; growing a large table would need it twice for a moment.
 std::size_t WithRoomToGrow(std::size_t count) { return count + count / 4 + 1; }
+
+bool IsOneRecord(std::string_view line) {
+  return line.size() == kElementRecordSize && line.back() == '\n';
+}
 
 /// Where a line begins at a position or behind it: past the next line's end, but for the first.
 std::int64_t NextLine(const DiskFile& file, std::int64_t position) {
@@ -115,6 +120,7 @@ int ElementKnowledge::CountObjects(const DiskFile& file) {
 bool ElementKnowledge::Read(const DiskFile& file, Wanted wanted) {
   std::vector<std::vector<std::int64_t>> positions;
   std::vector<std::vector<IdentifierKey>> keys;
+  std::atomic<bool> isRegular = identity_.size % kElementRecordSize == 0;
   const bool wantsKeys = wanted == Wanted::PositionsAndIdentifiers;
   const auto prepare = [&](std::size_t readers) {
     const std::size_t expected = identity_.size / kElementRecordSize / readers + 1;
@@ -124,6 +130,7 @@ bool ElementKnowledge::Read(const DiskFile& file, Wanted wanted) {
     for (auto& part : keys) part.reserve(wantsKeys ? expected : 0);
   };
   const auto learn = [&](std::size_t reader, std::int64_t position, std::string_view line) {
+    if (!IsOneRecord(line)) isRegular = false;
     if (!BeginsObject(line)) return;
     positions[reader].push_back(position);
     if (wantsKeys) keys[reader].push_back(IdentifierKey::OfLine(line));
@@ -132,6 +139,7 @@ bool ElementKnowledge::Read(const DiskFile& file, Wanted wanted) {
   Join(positions, positions_);
   if (wantsKeys) Join(keys, keys_);
   hasKeys_ = wantsKeys;
+  isRegular_ = isRegular;
   return true;
 }
 
@@ -179,6 +187,7 @@ std::size_t ElementKnowledge::SlotOf(const IdentifierKey& key) const {
 }
 
 void ElementKnowledge::ObjectAdded(std::int64_t position, std::string_view firstRecord) {
+  if (!isRegular_) return Forget();
   positions_.push_back(position);
   if (!hasKeys_) return;
   keys_.push_back(IdentifierKey::OfLine(firstRecord));
@@ -189,7 +198,7 @@ void ElementKnowledge::ObjectAdded(std::int64_t position, std::string_view first
 void ElementKnowledge::ObjectReplaced(std::int64_t from, std::int64_t to,
                                       std::string_view firstRecord) {
   const auto place = std::lower_bound(positions_.begin(), positions_.end(), from);
-  if (place == positions_.end() || *place != from) return Forget();
+  if (!isRegular_ || place == positions_.end() || *place != from) return Forget();
   *place = to;
   if (!hasKeys_) return;
   IdentifierKey& key = keys_[place - positions_.begin()];
@@ -200,6 +209,7 @@ void ElementKnowledge::ObjectReplaced(std::int64_t from, std::int64_t to,
 }
 
 void ElementKnowledge::BytesShifted(std::int64_t position, std::int64_t growth) {
+  if (!isRegular_) return Forget();
   const auto begin = std::lower_bound(positions_.begin(), positions_.end(), position);
   const auto end =
       std::lower_bound(begin, positions_.end(), position - std::min<std::int64_t>(growth, 0));
@@ -213,8 +223,8 @@ void ElementKnowledge::BytesShifted(std::int64_t position, std::int64_t growth) 
   table_.clear();
 }
 
-void ElementKnowledge::HoldsFor(const DiskFile& file) {
-  if (!isForgotten_) identity_ = file.Identity().value_or(FileIdentity{});
+void ElementKnowledge::HoldsFor(const FileIdentity& now) {
+  if (!isForgotten_) identity_ = now;
 }
 
 void ElementKnowledge::Forget() {

@@ -38,7 +38,8 @@ class ElementKnowledge {
   /// were not wanted before, the first call reads those of the whole file.
   int Find(const DiskFile& file, const IdentifierKey& key);
 
-  // The file was changed by its owner, who keeps what is known true to it.
+  // The file was changed by its owner, who keeps what is known true to it. Where lines and records
+  // are not the same thing, a change makes all be forgotten.
 
   void ObjectAdded(std::int64_t position, std::string_view firstRecord);
   /// The object that began at a position was written anew and begins at another now.
@@ -46,9 +47,10 @@ class ElementKnowledge {
   /// Bytes were taken out from a position on (`growth` is negative), or put there.
   void BytesShifted(std::int64_t position, std::int64_t growth);
   /// What is known holds for the file as it is now.
-  void HoldsFor(const DiskFile& file);
+  void HoldsFor(const FileIdentity& now);
   /// Nothing is known any more.
   void Forget();
+  bool IsForgotten() const { return isForgotten_; }
 
  private:
   static constexpr std::uint32_t kNoObject = 0xFFFFFFFF;
@@ -61,6 +63,7 @@ class ElementKnowledge {
 
   FileIdentity identity_;
   bool isForgotten_ = false;
+  bool isRegular_ = false;  ///< every line is one record
   std::vector<std::int64_t> positions_;
   /// One for each object once identifiers have been asked for.
   std::vector<IdentifierKey> keys_;

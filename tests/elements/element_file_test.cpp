@@ -120,6 +120,9 @@ TEST_F(ElementFileTest, AppendingNeedsAFileThatEndsAtARecord) {
   EXPECT_EQ(torn.WriteElement(-1, MakeObject(u"a"_s, 1)), -1);
   EXPECT_EQ(torn.ErrorText(), FilledString(13458, {u"0"_s}));
   EXPECT_EQ(Read(u"b.eld"_s), "C");
+  ElementFile withoutEnd(Write(u"d.eld"_s, QByteArray(417, 'C')));
+  EXPECT_EQ(withoutEnd.WriteElement(-1, MakeObject(u"a"_s, 1)), -1);
+  EXPECT_EQ(Read(u"d.eld"_s).size(), 417);
   ElementFile missing(PathOf(u"c.eld"_s));
   EXPECT_EQ(missing.WriteElement(-1, MakeObject(u"a"_s, 1)), -1);
   EXPECT_EQ(missing.ErrorText(), FilledString(13461, {PathOf(u"c.eld"_s)}));

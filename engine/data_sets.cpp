@@ -3,6 +3,7 @@
 #include <array>
 #include <limits>
 #include <set>
+#include <vector>
 
 #include "core_link/reply.h"
 
@@ -18,11 +19,6 @@ QString MemberPathOf(const QString& basePath, int number) {
 }
 
 QString CountPath(const QString& basePath) { return basePath + u".Count"_s; }
-
-int CountOf(const PropertyTree& tree, const QString& basePath) {
-  const PropertyNode* count = tree.Find(CountPath(basePath));
-  return count != nullptr && count->hasValue ? reply::ToInt(count->value) : 0;
-}
 
 void SetMember(PropertyTree& tree, const QString& memberPath, QStringView word, QStringView value) {
   tree.SetValue(tree.Make(memberPath + u'.' + word), value);
@@ -47,6 +43,25 @@ void GiveLabel(PropertyTree& tree, const QString& basePath, int number) {
   if (!label.hasValue) tree.SetValue(label, FreeLabel(tree, basePath, number));
 }
 
+/// What the node has for new members stands below "*". A member that gets anything from there also
+/// gets the moment that is shown.
+void GiveStartingValues(PropertyTree& tree, const QString& basePath, const QString& member) {
+  PropertyNode* source = tree.Find(QString(basePath + u".*"_s));
+  if (source == nullptr) return;
+  std::vector<std::pair<QString, QString>> values;
+  tree.ForEachValue(*source, [&](const PropertyNode& node) {
+    values.emplace_back(member + node.path.sliced(source->path.size()), node.value);
+  });
+  if (values.empty()) return;
+  const bool isSunspots = SameWord(LastWord(basePath), u"Sunspot");
+  const QString moment = ValueAt(tree, u"Time.JD"_s);
+  if (!moment.isEmpty()) values.emplace_back(member + (isSunspots ? u".JD"_s : u".Time"_s), moment);
+  for (const auto& [path, value] : values) {
+    PropertyNode& node = tree.Make(path);
+    if (!node.hasValue) tree.SetValue(node, value);
+  }
+}
+
 /// 0 for an unknown member.
 int NumberOf(const PropertyTree& tree, const QString& basePath, QStringView argument) {
   const QString path = tree.Canonical(QString(basePath + u".#"_s + argument));
@@ -55,12 +70,22 @@ int NumberOf(const PropertyTree& tree, const QString& basePath, QStringView argu
 
 }  // namespace
 
+QString ValueAt(const PropertyTree& tree, const QString& path) {
+  const PropertyNode* node = tree.Find(path);
+  return node != nullptr && node->hasValue ? node->value : QString();
+}
+
+int CountOfDataSets(const PropertyTree& tree, const QString& basePath) {
+  return reply::ToInt(ValueAt(tree, CountPath(basePath)));
+}
+
 void AddDataSet(PropertyTree& tree, const QString& basePath, QStringView arguments) {
-  const int count = CountOf(tree, basePath);
+  const int count = CountOfDataSets(tree, basePath);
   if (count < 0 || count == std::numeric_limits<int>::max()) return;
   const int number = count + 1;
   const QString member = MemberPathOf(basePath, number);
   if (SameWord(LastWord(basePath), u"TakenImage")) GiveLabel(tree, basePath, number);
+  if (arguments.isEmpty()) GiveStartingValues(tree, basePath, member);
   std::size_t position = 0;
   for (const QStringView argument : arguments.tokenize(u',', Qt::SkipEmptyParts)) {
     if (position == kSpotMembers.size()) break;
@@ -70,7 +95,7 @@ void AddDataSet(PropertyTree& tree, const QString& basePath, QStringView argumen
 }
 
 void DeleteDataSet(PropertyTree& tree, const QString& basePath, QStringView argument) {
-  const int count = CountOf(tree, basePath);
+  const int count = CountOfDataSets(tree, basePath);
   const int number = NumberOf(tree, basePath, argument);
   if (number < 1 || number > count) return;
   tree.RemoveMember(basePath, u"#", number);

@@ -9,9 +9,16 @@
 
 namespace vyn {
 
-/// ".Add()": appends a member and gives it no value; those put in place for it beforehand stay.
-/// With arguments it is a spot: its longitude, latitude and type. An image below "TakenImage" gets
-/// a label.
+/// The value at a path, an empty text when it has none.
+QString ValueAt(const PropertyTree& tree, const QString& path);
+
+/// How many members the node has.
+int CountOfDataSets(const PropertyTree& tree, const QString& basePath);
+
+/// ".Add()": appends a member. It gets the values that stand below "*" of the node, and with them
+/// the moment shown; in a bare engine none. Those put in place for it beforehand stay. With
+/// arguments it is a spot: its longitude, latitude and type. An image below "TakenImage" gets a
+/// label.
 void AddDataSet(PropertyTree& tree, const QString& basePath, QStringView arguments);
 
 /// ".Delete(n)" or ".Delete(label)": removes that member; those behind it move up by one number.

@@ -1,5 +1,6 @@
 #include "engine/reference_engine.h"
 
+#include <QDir>
 #include <QHash>
 
 #include "core_link/reply.h"
@@ -12,6 +13,8 @@
 
 namespace vyn {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 constexpr int kEarth = 4;
 
@@ -27,6 +30,22 @@ constexpr Method kMethods[]{
   {u"Set",    &World::Set},
   {u"Forget", &World::Forget},
   {u"Init",   &World::Init},
+  {u"Save",   &World::SaveMembers},
+  {u"Load",   &World::LoadMembers},
+};
+
+/// The nodes with data sets, each with a folder of its own.
+struct DataSetFolder {
+  QStringView basePath;
+  QStringView name;
+};
+
+constexpr DataSetFolder kDataSetFolders[]{
+  {u"Solar.Sun.Corona",                u"corona"},
+  {u"Solar.Sun.Sunspot",               u"sunspots"},
+  {u"Solar.Sun.TakenImage",            u"sun_images"},
+  {u"Solar.Planet.Mars.TakenImage",    u"mars_images"},
+  {u"Solar.Planet.Jupiter.TakenImage", u"jupiter_images"},
 };
 // clang-format on
 
@@ -114,6 +133,18 @@ void ReferenceEngine::Reset() {
   auto handler = std::move(impl_->redrawHandler);
   impl_ = std::make_unique<Impl>();
   impl_->redrawHandler = std::move(handler);
+}
+
+QStringList ReferenceEngine::LoadDataSets(const QString& folder) {
+  QStringList problems;
+  for (const DataSetFolder& node : kDataSetFolders) {
+    const QString base = node.basePath.toString();
+    Doit(base + ".SavePath = \""_L1 + QDir::toNativeSeparators(folder + u'/' + node.name) + u'"');
+    Doit(base + ".load()"_L1);
+    const QString problem = Property(base + ".Problem"_L1);
+    if (!problem.isEmpty()) problems += problem;
+  }
+  return problems;
 }
 
 void ReferenceEngine::LoadStartingState() { impl_->world.LoadStartingState(); }

@@ -6,6 +6,8 @@
 #include <memory>
 #include <vector>
 
+#include <QStringList>
+
 #include "core_link/cor_vyn.h"
 #include "engine/object_switches.h"
 
@@ -34,6 +36,10 @@ class ReferenceEngine final : public CCorVyn {
   /// The state with which the demo planetarium starts; the same on every call. Values of
   /// SetProperty and loaded element files stay; the objects of the files are shown.
   void LoadStartingState();
+
+  /// Keeps the data sets of the Sun and the planets in folders below this one from now on, and
+  /// takes those that are there. Returns what could not be read.
+  QStringList LoadDataSets(const QString& folder);
 
   /// Puts a value in place that answers queries of this path until something assigns to it, also
   /// where the engine would otherwise compute the answer.

@@ -193,6 +193,27 @@ constexpr Row kOfDustTrails[]{
   {u"Orbit.Visible",                u"TRUE"},
 };
 
+/// What new data sets get.
+constexpr Row kOfNewSets[]{
+  {u"Solar.Sun.Corona.*.Visible",                     u"TRUE"},
+  {u"Solar.Sun.Corona.*.Offset.X",                    u"0"},
+  {u"Solar.Sun.Corona.*.Offset.Y",                    u"0"},
+  {u"Solar.Sun.Corona.*.Radius",                      u"0.3"},
+  {u"Solar.Sun.Corona.*.Roll",                        u"0"},
+  {u"Solar.Sun.Sunspot.*.Visible",                    u"TRUE"},
+};
+
+/// Of bodies with images.
+constexpr Row kOfNewImages[]{
+  {u"TakenImage.*.Visible",                           u"TRUE"},
+  {u"TakenImage.*.Brightness",                        u"1.0"},
+  {u"TakenImage.*.Offset.X",                          u"0"},
+  {u"TakenImage.*.Offset.Y",                          u"0"},
+  {u"TakenImage.*.Radius",                            u"0.3"},
+  {u"TakenImage.*.Roll",                              u"0"},
+  {u"TakenImage.*.Range",                             u"90"},
+};
+
 /// Of Mars and Jupiter, which carry surface textures and images.
 constexpr Row kOfImagedPlanets[]{
   {u"TakenImage.Visible",           u"FALSE"},
@@ -328,6 +349,10 @@ void ForEachStartingValue(const Take& take) {
   for (const auto path : {u"Solar.Planet.Mars", u"Solar.Planet.Jupiter"}) {
     TakeRows(path, kOfImagedPlanets, take);
   }
+  for (const auto path : {u"Solar.Sun", u"Solar.Planet.Mars", u"Solar.Planet.Jupiter"}) {
+    TakeRows(path, kOfNewImages, take);
+  }
+  for (const Row& row : kOfNewSets) take(row.path.toString(), row.value);
   for (const Row& row : kSingle) take(row.path.toString(), row.value);
 }
 

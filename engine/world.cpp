@@ -6,6 +6,7 @@
 #include "engine/sky/time_scales.h"
 #include "engine/starting_state.h"
 #include "engine/status_script.h"
+#include "engine/sunspot_orientation.h"
 #include "engine/time_properties.h"
 #include "engine/value_text.h"
 
@@ -67,8 +68,10 @@ QString World::Compute(const QString& path) {
     case PathRole::ElementClass:
       return ReadElements(path);
     default:
-      return Inherited(path);
+      break;
   }
+  const QString orientation = ReadSunspotOrientation(tree_, path);
+  return orientation.isNull() ? Inherited(path) : orientation;
 }
 
 QString World::ReadStatus(const QString& path) {
@@ -310,6 +313,21 @@ void World::AddMember(QStringView path, QStringView arguments) {
 void World::DeleteMember(QStringView path, QStringView argument) {
   const QString canonical = tree_.Canonical(path);
   if (!canonical.isEmpty()) DeleteDataSet(tree_, canonical, argument);
+}
+
+void World::SaveMembers(QStringView path, QStringView) {
+  const QString canonical = tree_.Canonical(path);
+  if (!canonical.isEmpty()) SetProblem(canonical, dataSetFiles_.Save(tree_, canonical));
+}
+
+void World::LoadMembers(QStringView path, QStringView) {
+  const QString canonical = tree_.Canonical(path);
+  if (!canonical.isEmpty()) SetProblem(canonical, dataSetFiles_.Load(tree_, canonical));
+}
+
+void World::SetProblem(const QString& basePath, const QString& problem) {
+  PropertyNode& node = tree_.Make(basePath + u".Problem"_s);
+  problem.isEmpty() ? tree_.ClearValue(node) : tree_.SetValue(node, problem);
 }
 
 void World::ClearSlot(QStringView slotPath) { slots_.erase(SlotNumber(slotPath)); }

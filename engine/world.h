@@ -10,6 +10,7 @@
 #include <QString>
 #include <QStringView>
 
+#include "engine/data_set_files.h"
 #include "engine/element_class.h"
 #include "engine/property_tree.h"
 
@@ -48,6 +49,10 @@ class World {
 
   void AddMember(QStringView path, QStringView arguments);
   void DeleteMember(QStringView path, QStringView argument);
+
+  /// The members' text files. What went wrong stands in "Problem" below the path after that.
+  void SaveMembers(QStringView path, QStringView = {});
+  void LoadMembers(QStringView path, QStringView = {});
 
   /// The slots are called by their path, "Status.#5".
   void ClearSlot(QStringView slotPath);
@@ -105,7 +110,10 @@ class World {
   Object ObjectOf(QStringView path);
   SwitchColumn* ColumnOfMembers(QStringView path);
 
+  void SetProblem(const QString& basePath, const QString& problem);
+
   PropertyTree tree_;
+  DataSetFiles dataSetFiles_;
   std::array<ElementClass, 2> elements_;
   std::map<int, Snapshot> slots_;
   int observerBody_;

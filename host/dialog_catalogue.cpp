@@ -2,12 +2,21 @@
 
 #include <algorithm>
 
+#include "host/image_dialog_help.h"
+#include "image_data/corona_dialog.h"
+#include "image_data/planet_texture_dialog.h"
+#include "image_data/sunspot_dialog.h"
+#include "image_data/taken_image_dialog.h"
 #include "major_bodies/dwarf_planet_dialog.h"
 #include "major_bodies/planet_dialog.h"
 #include "major_bodies/satellite_dialog.h"
 #include "major_bodies/solar_dialog.h"
 #include "major_bodies/sun_dialog.h"
 #include "major_bodies/zodiacal_light_dialog.h"
+#include "small_bodies/comet_dialog.h"
+#include "small_bodies/dust_trail_dialog.h"
+#include "small_bodies/meteorite_dialog.h"
+#include "small_bodies/minor_planet_dialog.h"
 
 namespace vyn {
 namespace {
@@ -91,14 +100,37 @@ constexpr char16_t kZodiacalLightHelp[] =
 - **対日照** 太陽の反対側のわずかな明るみです。見やすいように強調してあります。
 )";
 
+constexpr char16_t kCometHelp[] =
+    u"<p>彗星を一覧で選び、表示や名称、軌道、テイルを切り替えます。等級と軌道タイプでまとめて表示する"
+    u"こともできます。</p><p>軌道要素の新規作成、編集、削除、インポートは現在の軌道要素ファイルに書き込"
+    u"まれ、「キャンセル」では元に戻りません。</p>";
+
+constexpr char16_t kMinorPlanetHelp[] =
+    u"<p>小惑星を一覧で選び、表示や名称、軌道を切り替えます。等級、軌道タイプ、スペクトル型でまとめて"
+    u"表示することもできます。</p>";
+
+constexpr char16_t kMeteoriteHelp[] =
+    u"<p>軌道の知られた隕石の落下を一覧し、表示、名称、軌道を切り替えます。</p>";
+
+constexpr char16_t kDustTrailHelp[] =
+    u"<p>流星群のもとになるダストトレイルを一覧し、表示と軌道を切り替えます。</p>";
+
 // clang-format off
 constexpr DialogEntry kDialogs[] = {
   {13004, u"sun_moon",       u"太陽・月(&S)...",         &Make<CDlgSun>,           u"太陽・月の名称", u"太陽 Sun",   kSunHelp},
   {13002, u"planets",        u"惑星(&P)...",             &Make<CDlgPlanet>,        u"惑星の名称",     u"木星 Jupiter", kPlanetHelp},
   {13005, u"dwarf_planets",  u"準惑星(&D)...",           &Make<CDlgDwarfPlanet>,   u"準惑星の名称",   u"冥王星 Pluto", kDwarfPlanetHelp},
   {13003, u"satellites",     u"衛星(&N)...",             &Make<CDlgSat>,           u"衛星の名称",     u"イオ Io",      kSatelliteHelp},
+  {13000, u"comets",         u"彗星(&E)...",             &Make<CDlgComet>,         u"彗星の名称",     u"1P ハレー",    kCometHelp},
+  {13001, u"minor_planets",  u"小惑星(&M)...",           &Make<CDlgMinorPlanet>,   u"小惑星の名称",   u"4 ベスタ",     kMinorPlanetHelp},
+  {13017, u"meteorites",     u"隕石(&F)...",             &Make<CDlgMeteorite>,     u"隕石の名称",     u"プリブラム",   kMeteoriteHelp},
+  {13018, u"dust_trails",    u"ダストトレイル(&U)...",   &Make<CDlgDustTrail>,     u"ダストトレイル", u"しし座流星群", kDustTrailHelp},
   {13019, u"solar_system",   u"太陽系その他(&O)...",     &Make<CDlgSolar>,         u"領域の表示",     u"メインベルト", kSolarHelp},
   {13015, u"zodiacal_light", u"黄道光・対日照(&Z)...",   &Make<CDlgZodiacalLight>, u"",               u"",             kZodiacalLightHelp},
+  {13016, u"corona",         u"太陽コロナ(&C)...",       &Make<CDlgCorona>,        u"",               u"",             kCoronaHelp},
+  {13014, u"sunspots",       u"太陽黒点(&K)...",         &Make<CDlgSunSpot>,       u"",               u"",             kSunspotHelp},
+  {13013, u"taken_images",   u"太陽・惑星画像(&I)...",   &Make<CDlgTakenImg>,      u"",               u"",             kTakenImageHelp},
+  {13012, u"textures",       u"惑星テクスチャ(&T)...",   &Make<CDlgPlanetTex>,     u"",               u"",             kPlanetTextureHelp},
 };
 // clang-format on
 

@@ -75,6 +75,8 @@ int Run(QApplication& application, const Options& options) {
   if (QGuiApplication::platformName() == "offscreen"_L1) LookTheSame();
   vyn::ReferenceEngine engine;
   if (!PrepareEngine(engine, options)) return EXIT_FAILURE;
+  // Pictures are to show the same for everybody.
+  if (options.tour.isEmpty()) vyn::LoadUserData(engine);
   const double tourMoment = options.moment.value_or(engine.JulianDate());
   vyn::MainWindow window(engine);
   window.resize(1280, 900);

@@ -8,9 +8,11 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QStandardPaths>
 
 #include "engine/element_table.h"
 #include "engine/reference_engine.h"
+#include "image_data/planet_texture_dialog.h"
 
 namespace vyn {
 namespace {
@@ -60,6 +62,14 @@ bool LoadComets(ReferenceEngine& engine, const QString& path) {
     std::fprintf(stderr, "vyn-planetarium: %s\n", qPrintable(problem.Text()));
   }
   return isLoaded;
+}
+
+void LoadUserData(ReferenceEngine& engine) {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+  for (const QString& problem : engine.LoadDataSets(folder)) {
+    std::fprintf(stderr, "vyn-planetarium: %s\n", qPrintable(problem));
+  }
+  CDlgPlanetTex::SendDefaults(engine);
 }
 
 }  // namespace vyn

@@ -24,4 +24,9 @@ QString FindCometFile();
 /// nothing could.
 bool LoadComets(ReferenceEngine& engine, const QString& path);
 
+/// Takes the user's own images and sunspots from the folder of the program's data and keeps them
+/// there, puts the surface layers in place that were saved as defaults, and tells on standard error
+/// what could not be read.
+void LoadUserData(ReferenceEngine& engine);
+
 }  // namespace vyn

@@ -11,8 +11,7 @@ namespace vyn {
 /// pole, x towards longitude 0 on its equator, longitudes in the sense of right-handed rotation
 /// (on the Earth and on the Sun: eastwards).
 /// Source: IAU working group on cartographic coordinates, reports of 2009 and 2015 (Archinal et
-/// al.); Mars without its small periodic terms. `jdTt` is when the light left the body, except for
-/// the Sun, whose Carrington longitudes count from when it arrives.
+/// al.); Mars without its small periodic terms. `jdTt` is when the light left the body.
 Matrix3 ToBodyFixed(Body body, double jdTt);
 
 /// How a disk stands.

@@ -47,10 +47,8 @@ BodyPlace SkySnapshot::PlaceOf(Body body) const {
   if (body == Body::Earth) return place;
   place.fromSite = ApparentPlace(state.position - site_.position, state.velocity - site_.velocity);
   const double lightDays = Length(place.fromSite) / kLightAuPerDay;
-  // The Sun's longitudes count from when its light arrives.
-  const double jdOfDisk = body == Body::Sun ? JdTt() : JdTt() - lightDays;
   const Vector3 pole = observer_.CelestialPole();
-  place.disk = OrientationOf(body, jdOfDisk, place.fromSite, pole);
+  place.disk = OrientationOf(body, JdTt() - lightDays, place.fromSite, pole);
   place.light = IlluminationOf(place.heliocentric, place.fromSite);
   place.magnitude = MagnitudeOf(body, place.light, place.disk.centralLatitudeDeg, YearOf(JdTt()));
   place.illuminatedFraction =

@@ -77,7 +77,7 @@ TEST(DiskOrientation, SunAndMoonStandAsPublished) {
   const DiskOrientation& sun = sky.Place(Body::Sun).disk;
   EXPECT_NEAR(sun.axisAngleDeg, 26.27, 0.03);
   EXPECT_NEAR(sun.centralLatitudeDeg, 5.99, 0.03);
-  EXPECT_NEAR(sun.centralLongitudeDeg, 238.63, 0.1);
+  EXPECT_NEAR(sun.centralLongitudeDeg, 238.63, 0.02);
 
   // Meeus, example 53.a: the Moon on 1992 Apr 12.0 TT, from the Earth's centre.
   const double jdTt = 2448724.5;

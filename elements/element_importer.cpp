@@ -90,9 +90,15 @@ bool ElementImporter::Examine(const QString& source, int object, Candidate& cand
          CheckImportElement(candidate);
 }
 
+/// Stays open from one object to the next, while the path leads to the same unchanged file.
+bool ElementImporter::OpenSource(const QString& path) {
+  const auto now = DiskFile::IdentityOf(path);
+  const bool isOpen = now && source_.IsOpen() && source_.OpenedIdentity() == *now;
+  return isOpen || source_.Open(path, DiskFile::Mode::Read);
+}
+
 std::int64_t ElementImporter::ImportRecordSeekPos(const QString& source, int object) {
-  DiskFile file;
-  const auto known = file.Open(source, DiskFile::Mode::Read) ? ElementKnowledge::Of(file) : nullptr;
+  const auto known = OpenSource(source) ? ElementKnowledge::Of(source_) : nullptr;
   if (!known) Fail(13445, {source});
   const std::int64_t position = known ? known->PositionOf(object) : -1;
   if (known && position < 0) {
@@ -103,9 +109,8 @@ std::int64_t ElementImporter::ImportRecordSeekPos(const QString& source, int obj
 
 bool ElementImporter::ReadImportElements(const QString& source, std::int64_t position,
                                          ElementRecords& records) {
-  DiskFile file;
-  if (!file.Open(source, DiskFile::Mode::Read)) return Fail(13447, {source});
-  RecordWindow window(file);
+  if (!source_.IsOpen()) return Fail(13447, {source});
+  RecordWindow window(source_);
   try {
     QByteArray record;
     for (;;) {

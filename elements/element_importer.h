@@ -80,6 +80,7 @@ class ElementImporter {
  private:
   class RecordWindow;
 
+  bool OpenSource(const QString& path);
   std::int64_t ImportRecordSeekPos(const QString& source, int object);
   bool ReadImportElements(const QString& source, std::int64_t position, ElementRecords& records);
   int ReadElement(RecordWindow& window, std::int64_t position, QByteArray& record);
@@ -93,6 +94,7 @@ class ElementImporter {
   int Write(int object, const ElementRecords& records);
   bool Fail(int message, std::initializer_list<QString> values = {});
 
+  DiskFile source_;
   ElementFile target_;
   ImportDecisions& decisions_;
   QString errorText_;

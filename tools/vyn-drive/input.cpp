@@ -132,7 +132,7 @@ void SendMouse(QWidget& widget, QEvent::Type type, QPointF position, Qt::MouseBu
                     QPointingDevice::primaryPointingDevice());
   // What comes from outside moves the keyboard focus; what a program sends does not.
   QSpontaneKeyEvent::setSpontaneous(&event);
-  QCoreApplication::sendEvent(&widget, &event);
+  QCoreApplication::instance()->notify(&widget, &event);
 }
 
 void ClickAt(QWidget& widget, QPoint position, Qt::KeyboardModifiers modifiers) {

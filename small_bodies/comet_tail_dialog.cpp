@@ -1,6 +1,7 @@
 #include "small_bodies/comet_tail_dialog.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 #include <QSlider>
@@ -124,7 +125,9 @@ void CDlgCometTail::OnEnChangeEdt() {
 }
 
 void CDlgCometTail::OnDeltaposSpn(const TailValue& value, int delta) {
-  tails_.*value.member = std::max(0.0, tails_.*value.member - delta * value.step);
+  // Steps of a tenth add up to what they look like.
+  const double stepped = std::round((tails_.*value.member - delta * value.step) * 1e6) / 1e6;
+  tails_.*value.member = std::max(0.0, stepped);
   UpdateData(false);
   SetScrollPos();
   Doit(tails_);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QScreen>
+
 #include "resources/string_table.h"
 #include "small_bodies/all_button_rule.h"
 
@@ -77,6 +79,8 @@ void CDlgObjectList::InitListBoxAObj() {
   objectList_->SetValueCountTotal(GetInt(classPath_ + QStringView(u".Count")), 0);
   objectList_->CalcLayout();
   objectList_->Update();
+  // The toolkit alone would leave a list that is mostly empty a good part of the screen.
+  resize(sizeHint().boundedTo(screen()->availableSize()));
 }
 
 /// Laid out with the samples first, so that the widths are those of the texts to come.

@@ -112,7 +112,10 @@ void ObjectListPainter::DrawText(const QString& text, const QRect& area, bool ce
 /// Framed, since a click takes the next option.
 void ObjectListPainter::DrawChoice(const tagHeaderDataItem& column, const tagDataItem& cell,
                                    const QRect& area) {
+  const QPen textPen = painter_.pen();
+  painter_.setPen(list_.palette().color(QPalette::Mid));
   painter_.drawRect(area.adjusted(3, 2, -4, -3));
+  painter_.setPen(textPen);
   DrawText(column.options.value(cell.value), area, true);
 }
 

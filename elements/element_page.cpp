@@ -133,10 +133,17 @@ bool IsPlainNumber(QStringView text) {
   return digits > 0 && points <= 1 && digits + points == text.size();
 }
 
-/// M is in no record, so that nothing else would notice that T was derived from no number.
-Problem CheckMeanAnomaly(const ElementInput& input) {
-  if (input.timeMode || IsPlainNumber(input.meanAnomaly)) return {};
-  return Refuse(kNumberExpected, kMeanAnomalyControl);
+/// M and a are in no record, so that nothing else would notice that T or q was derived from no
+/// number. An orbit too wide to show its axis keeps the q that it has.
+Problem CheckGivenInstead(const ElementInput& input) {
+  if (!input.distanceMode && !IsBlankField(input.semiMajorAxis) &&
+      !IsPlainNumber(input.semiMajorAxis)) {
+    return Refuse(kNumberExpected, kAxisControl);
+  }
+  if (!input.timeMode && !IsPlainNumber(input.meanAnomaly)) {
+    return Refuse(kNumberExpected, kMeanAnomalyControl);
+  }
+  return {};
 }
 
 Problem StoreFields(const ElementInput& input, QByteArray& record) {
@@ -185,7 +192,7 @@ std::optional<PageProblem> StorePage(ElementInput input, QByteArray& record,
   if (Problem problem = CheckValidity(input)) return problem;
   if (Problem problem = CheckGivenTime(input)) return problem;
   if (Problem problem = CheckIdentifier(input, isTaken)) return problem;
-  if (Problem problem = CheckMeanAnomaly(input)) return problem;
+  if (Problem problem = CheckGivenInstead(input)) return problem;
   QByteArray stored = record;
   if (Problem problem = StoreFields(input, stored)) return problem;
   record = stored;

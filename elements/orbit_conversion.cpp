@@ -80,13 +80,15 @@ Ellipse EllipseOf(const ElementInput& input) {
   return {qAu / (1.0 - e)};
 }
 
-/// A day that its decimals round up is the next one, also where that begins another month.
+/// A day that its decimals round up beyond the month is the first of the next.
 void PutDate(ElementInput& input, const DateFields& date, double jd, int decimals) {
   int year = 0, month = 0;
   double day = 0.0;
   JdToDate(jd, &year, &month, &day);
   const double rounded = NumberOf(FixedText(day, decimals));
-  if (rounded >= std::floor(day) + 1.0) JdToDate(CalcJd(year, month, rounded), &year, &month, &day);
+  if (CheckDate(year, month, rounded) == 0) {
+    JdToDate(CalcJd(year, month, rounded), &year, &month, &day);
+  }
   input[date.year] = QString::number(year);
   input[date.month] = QString::number(month);
   input[date.day] = FixedText(day, decimals, 2 + decimals + (day >= 10.0 ? 1 : 0));

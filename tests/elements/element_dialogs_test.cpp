@@ -138,7 +138,7 @@ TEST(ElementManEdit, RefusesTheIdentifierOfAnotherObjectAlone) {
   OneComet engine;
   CDlgElementManEdit editor(&engine, nullptr, nullptr);
   editor.SetPages({engine.record});
-  EXPECT_EQ(MessageOfOk(editor), u"この認識符号はすでに使用されています"_s);
+  EXPECT_EQ(MessageOfOk(editor), u"この認識符号はすでに使用されています。"_s);
   editor.SetObjectNumber(0);
   EXPECT_EQ(MessageOfOk(editor), QString());
   // An engine that gives no views knows no other object.

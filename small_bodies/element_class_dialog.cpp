@@ -25,6 +25,12 @@ constexpr ObjectColumn kTypeShownColumn{.title = u"表示", .kind = ObjectColumn
 constexpr int kBackwardPicture = 13100, kForwardPicture = 13102;
 constexpr double kPictureWidth = 14.0, kPictureHeight = 18.0;
 
+/// Whether other cells are shown after the list's call than before.
+bool ShowsCells(ObjectListReason reason) {
+  return reason == ObjectListReason::Fill || reason == ObjectListReason::AllButton ||
+         reason == ObjectListReason::CellChanged;
+}
+
 void ShowPicture(QWidget* control, int number) {
   const double scaling = control->logicalDpiX() / 96.0;
   const QSize size(static_cast<int>(kPictureWidth * scaling),
@@ -194,7 +200,7 @@ int CDlgElementClass::OnVynListBoxAObj(quintptr reason, tagUpdateInfo* record) {
   const auto kind = static_cast<ObjectListReason>(reason);
   if (caller == typeLists_.end()) {
     CDlgObjectList::OnVynListBoxAObj(reason, record);
-    if (kind != ObjectListReason::SelectionChanged) UpdateDispCountAndTotalCount();
+    if (ShowsCells(kind)) UpdateDispCountAndTotalCount();
   } else if (kind == ObjectListReason::Fill) {
     GetAllVynListBoxAObjType(*caller, *record);
   } else if (kind == ObjectListReason::CellChanged) {

@@ -171,9 +171,8 @@ bool CDlgElementClass::UseElementFile(const QString& chosen, const QString& prev
     Doit(Path(u".File = \"") + ShortPathName(file).replace(u"\""_s, u"\"\""_s) + u'"');
   };
   assign(chosen);
-  const bool isUsed =
-      IsSamePath(chosen, previous) || !IsSamePath(GetString(Path(u".File")), previous);
-  if (isUsed) return true;
+  const QString used = GetString(Path(u".File"));
+  if (IsSamePath(chosen, previous) || !IsSamePath(used, previous)) return true;
   assign(previous);
   ShowSky();
   ShowMessage(QMessageBox::Warning, LoadString(kRejected), this, windowTitle());

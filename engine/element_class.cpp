@@ -37,7 +37,7 @@ ElementClass::ElementClass(QString classPath, ElementKind kind)
 
 ElementClass::~ElementClass() = default;
 
-bool ElementClass::IsLoaded() const { return table_->Count() > 0; }
+bool ElementClass::IsLoaded() const { return !File().isEmpty(); }
 
 QString ElementClass::File() const { return table_->FilePath(); }
 
@@ -45,7 +45,7 @@ int ElementClass::Count() const { return table_->Count(); }
 
 bool ElementClass::Load(const QString& file) {
   if (!table_->Load(file)) return false;
-  types_.ReadAll(*table_);
+  types_.ReadFrom(*table_, 0);
   TableChanged();
   FitSwitches();
   StartSwitches();
@@ -53,11 +53,10 @@ bool ElementClass::Load(const QString& file) {
 }
 
 bool ElementClass::AddObjects() {
-  const int wholeReads = table_->WholeReads();
-  if (!IsLoaded() || !table_->DataAdd()) return false;
-  ReadTypes(
-      wholeReads,
-      [](SmallBodyTypes& types, const ElementTable& table, int) { types.ReadNew(table); }, 0);
+  const int first = IsLoaded() ? table_->DataAdd() : -1;
+  if (first < 0) return false;
+  TableChanged();
+  types_.ReadFrom(*table_, first);
   FitSwitches();
   return true;
 }
@@ -92,7 +91,7 @@ void ElementClass::ReadTypes(int wholeReadsBefore,
                              void (*readChange)(SmallBodyTypes&, const ElementTable&, int),
                              int object) {
   TableChanged();
-  if (table_->WholeReads() != wholeReadsBefore) return types_.ReadAll(*table_);
+  if (table_->WholeReads() != wholeReadsBefore) return types_.ReadFrom(*table_, 0);
   readChange(types_, *table_, object);
 }
 
@@ -184,7 +183,7 @@ const SmallBodyPlaces& ElementClass::PlacesAt(double jdTt, const StateVector& ob
 }
 
 QString ElementClass::DataPtr() const {
-  if (!IsLoaded()) return {};
+  if (Count() == 0) return {};
   return u"%1, %2, %3, %4"_s.arg(
       QString::number(table_->RecordCount()), AddressText(table_->RecordData()),
       QString::number(table_->Count()), AddressText(table_->FirstRecords().data()));

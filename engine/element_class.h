@@ -25,8 +25,8 @@ class ElementClass {
   ElementKind Kind() const { return kind_; }
   const QString& Path() const { return path_; }
   const ElementTable& Table() const { return *table_; }
-  bool IsLoaded() const;
-  QString File() const;  ///< as it was given; empty before the first load
+  bool IsLoaded() const;  ///< also when its file has lost its last object
+  QString File() const;   ///< as it was given; empty before the first load
   int Count() const;
 
   /// Loads another file; its objects' switches are as they start. False leaves all as it was.
@@ -39,7 +39,7 @@ class ElementClass {
   bool RemoveObject(int object);
 
   /// "total records, address, objects, address" of the record data and the first-record table;
-  /// empty without a file.
+  /// empty without an object.
   QString DataPtr() const;
 
   /// The object's own text with this feature ("ID", "EnglishName" ...) or its switch; nothing when

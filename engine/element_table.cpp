@@ -63,6 +63,11 @@ class MappedFile {
     const auto now = DiskFile::IdentityOf(file_.fileName());
     return now && identity_ && now->IsSameFile(*identity_) && now->size == size_;
   }
+  /// Whether the file with this name is the same one, only longer.
+  bool HasGrownInPlace() const {
+    const auto now = DiskFile::IdentityOf(file_.fileName());
+    return now && identity_ && now->IsSameFile(*identity_) && now->size > size_;
+  }
   std::string_view Bytes() const { return {data_, static_cast<std::size_t>(size_)}; }
   QString Path() const { return file_.fileName(); }
   QString Error() const { return file_.errorString(); }
@@ -127,6 +132,8 @@ struct ElementTable::Content {
   std::vector<std::uint32_t> withPages;
   ElementColumns columns;
   ProblemLog problems;
+  /// The first object that was added since the whole file was read.
+  int firstAdded = 0;
 
   int Count() const { return static_cast<int>(firstRecords.size()); }
   int RecordCount() const { return static_cast<int>(file->Bytes().size() / kElementRecordSize); }
@@ -153,6 +160,7 @@ struct ElementTable::Content {
     ForEachColumn(columns, [this](auto& column) { column.reserve(RecordCount()); });
     firstRecords.reserve(RecordCount());
     ReadObjectsFrom(0);
+    firstAdded = Count();
   }
 
   /// Adds the objects whose first record is this one or one behind it.
@@ -224,7 +232,13 @@ struct ElementTable::Content {
     }
   }
 
+  void Drop(int firstObject) {
+    firstRecords.resize(firstObject);
+    ForEachColumn(columns, [firstObject](auto& column) { column.resize(firstObject); });
+  }
+
   void Erase(int object) {
+    if (object < firstAdded) --firstAdded;
     firstRecords.erase(firstRecords.begin() + object);
     ForEachColumn(columns, [object](auto& column) { column.erase(column.begin() + object); });
     FindObjectsWithPages();
@@ -238,13 +252,16 @@ struct ElementTable::Content {
 ElementTable::ElementTable() : content_(std::make_unique<Content>()) {}
 ElementTable::~ElementTable() = default;
 
-bool ElementTable::Load(const QString& path) {
+bool ElementTable::Load(const QString& path) { return Read(path, false); }
+
+bool ElementTable::Read(const QString& path, bool mayBeEmpty) {
   loadFailure_.clear();
   auto fresh = std::make_unique<Content>();
   const bool opened = fresh->file->Open(path) ||
                       (CompleteInterruptedRewrite(LinkTarget(path)) && fresh->file->Open(path));
   if (opened) fresh->ReadAll();
-  if (fresh->Count() > 0) {
+  const bool isEmpty = opened && fresh->file->Bytes().empty();
+  if (fresh->Count() > 0 || (mayBeEmpty && isEmpty)) {
     content_ = std::move(fresh);
     ++wholeReads_;
     return true;
@@ -338,7 +355,7 @@ bool ElementTable::ReadChange(Change change) {
   std::swap(content_->file, file);
   if (delta && change(static_cast<int>(*delta))) return true;
   std::swap(content_->file, file);
-  return Load(FilePath());
+  return Read(FilePath(), true);
 }
 
 bool ElementTable::DataUpdate(int object) {
@@ -357,13 +374,20 @@ bool ElementTable::DataUpdate(int object) {
   });
 }
 
-bool ElementTable::DataAdd() {
-  const int oldCount = content_->RecordCount();
-  return ReadChange([this, oldCount](int delta) {
-    if (delta < 0 || content_->problems.Reaches(oldCount)) return false;
-    content_->ReadObjectsFrom(oldCount);
+int ElementTable::DataAdd() {
+  const int wholeReads = wholeReads_;
+  // Only what was added so far can have been written anew with no more than this being told.
+  const int first = content_->file->HasGrownInPlace() ? Count() : content_->firstAdded;
+  const int record =
+      first < Count() ? static_cast<int>(content_->firstRecords[first]) : content_->RecordCount();
+  const bool isRead = ReadChange([this, first, record](int delta) {
+    if (delta < 0 || content_->problems.Reaches(record)) return false;
+    content_->Drop(first);
+    content_->ReadObjectsFrom(record);
     return true;
   });
+  if (!isRead) return -1;
+  return wholeReads_ == wholeReads ? first : 0;
 }
 
 bool ElementTable::DataRemove(int object) {

@@ -104,13 +104,17 @@ class ElementTable {
   /// none.
   int IndexOf(QStringView identifier) const;
 
-  /// The file has changed on disk: one object's records were changed, objects were added at the
-  /// end, or one object's records were taken out. Only those are read again; when the file's length
-  /// shows that more has changed, all of it is. False, with everything as it was, when the file
-  /// cannot be read any more or there is no such object.
+  /// The file has changed on disk: one object's records were changed, or taken out. Only those are
+  /// read again; when the file's length shows that more has changed, all of it is. False, with
+  /// everything as it was, when the file cannot be read any more or there is no such object.
   bool DataUpdate(int object);
-  bool DataAdd();
   bool DataRemove(int object);
+
+  /// The same for objects added at the end. An object that was added before may be written anew
+  /// without another word: where the file is not the old one with more at its end, all that were
+  /// added since the whole file was read are read again. Returns the first object that was read,
+  /// -1 on failure.
+  int DataAdd();
 
   /// How often a whole file has been read.
   int WholeReads() const { return wholeReads_; }
@@ -126,6 +130,8 @@ class ElementTable {
   /// has grown; loads the whole file when the change cannot be applied.
   template <typename Change>
   bool ReadChange(Change change);
+  /// Reads the whole file. One without any object is refused unless it is empty and may be.
+  bool Read(const QString& path, bool mayBeEmpty);
 
   std::unique_ptr<Content> content_;
   std::vector<ElementProblem> loadFailure_;

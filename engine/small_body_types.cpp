@@ -173,18 +173,12 @@ char SpectralTypeOf(int number) {
   return 0;
 }
 
-void SmallBodyTypes::ReadAll(const ElementTable& table) {
-  orbital_.clear();
-  spectral_.clear();
-  spectralCounts_.fill(0);
-  ReadNew(table);
-}
-
-void SmallBodyTypes::ReadNew(const ElementTable& table) {
+void SmallBodyTypes::ReadFrom(const ElementTable& table, int first) {
   const int known = static_cast<int>(orbital_.size());
+  for (int object = first; object < known; ++object) CountSpectral(object, -1);
   orbital_.resize(table.Count());
   spectral_.resize(table.Count());
-  for (int object = known; object < table.Count(); ++object) Read(table, object);
+  for (int object = first; object < table.Count(); ++object) Read(table, object);
 }
 
 void SmallBodyTypes::ReadAgain(const ElementTable& table, int object) {

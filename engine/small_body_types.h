@@ -49,10 +49,8 @@ class SmallBodyTypes {
  public:
   explicit SmallBodyTypes(ElementKind kind) : kind_(kind) {}
 
-  /// Everything was read again; objects stand behind those known so far; one object was changed or
-  /// taken out.
-  void ReadAll(const ElementTable& table);
-  void ReadNew(const ElementTable& table);
+  /// All objects from `first` on were read; one object was changed or taken out.
+  void ReadFrom(const ElementTable& table, int first);
   void ReadAgain(const ElementTable& table, int object);
   void Remove(int object);
 

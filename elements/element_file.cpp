@@ -196,6 +196,7 @@ bool ElementFile::AppendRecords(const ElementRecords& records) {
   if (!WriteAt(end, records)) {
     // A part of a record would shift all that is added later.
     file_.Truncate(end);
+    NoteChange();
     return false;
   }
   if (knowledge_) knowledge_->ObjectAdded(end, ViewOf(records.front()));

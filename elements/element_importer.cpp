@@ -122,12 +122,17 @@ bool ElementImporter::ReadImportElements(const QString& source, std::int64_t pos
       position += consumed;
     }
   } catch (const std::bad_alloc&) {
-    records.clear();
+    FreeImportElements(records);
     return Fail(13448);
   }
   // What follows the object's last record need not be one.
   if (!records.empty()) errorText_.clear();
   return !records.empty();
+}
+
+/// Gives the memory back to whoever needs some next.
+void ElementImporter::FreeImportElements(ElementRecords& records) {
+  ElementRecords().swap(records);
 }
 
 /// Returns the bytes of the line, 0 when there is none left, -1 on failure. `record` holds the

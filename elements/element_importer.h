@@ -83,6 +83,7 @@ class ElementImporter {
   bool OpenSource(const QString& path);
   std::int64_t ImportRecordSeekPos(const QString& source, int object);
   bool ReadImportElements(const QString& source, std::int64_t position, ElementRecords& records);
+  static void FreeImportElements(ElementRecords& records);
   int ReadElement(RecordWindow& window, std::int64_t position, QByteArray& record);
   bool CheckImportElement(Candidate& candidate);
   bool FindInTarget(Candidate& candidate);

@@ -141,11 +141,13 @@ RewriteStep TakeItsName(const QString& path) {
   return isRenamed ? RewriteStep::None : RewriteStep::Rename;
 }
 
+/// An empty one is the file whose only object was taken out: one that was just begun has the
+/// element file beside it.
 bool IsComplete(const DiskFile& temporary) {
   const auto identity = temporary.Identity();
-  char kind = '\0';
-  return identity && identity->size % kElementRecordSize == 0 &&
-         temporary.ReadAt(0, &kind, 1) == 1 && KindOf({&kind, 1}) != RecordKind::Unknown;
+  char first = '\0';
+  return identity &&
+         (identity->size == 0 || (temporary.ReadAt(0, &first, 1) == 1 && first != '\0'));
 }
 
 }  // namespace

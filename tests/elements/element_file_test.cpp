@@ -1,6 +1,10 @@
 // Finding, writing, replacing and taking out objects of an element file, to the byte.
 #include "elements/element_file.h"
 
+#include <sys/resource.h>
+
+#include <csignal>
+
 #include <QDir>
 #include <QProcess>
 
@@ -139,18 +143,30 @@ TEST_F(ElementFileTest, AChangeByAnotherProgramIsSeen) {
 
 TEST_F(ElementFileTest, AnInterruptedRewritingIsCompleted) {
   const QByteArray whole = Joined({MakeObject(u"a"_s, 2)});
-  Write(u"a.$$E"_s, whole);
-  ElementFile file(PathOf(u"a.eld"_s));
-  EXPECT_EQ(file.GetObjectCount(), 1);
-  EXPECT_EQ(Files(), QStringList{u"a.eld"_s});
-  EXPECT_EQ(Read(u"a.eld"_s), whole);
+  struct Case {
+    const char* name;
+    QByteArray bytes;
+    int objects;
+  };
+  const Case cases[] = {
+      {"whole records", whole, 1},
+      {"a file that ends within a record", whole + "tail", 1},
+      {"a file that begins with no record", "; made by hand\r\n" + whole, 1},
+      {"a file whose only object was taken out", {}, 0},
+  };
+  for (const Case& row : cases) {
+    Write(u"a.$$E"_s, row.bytes);
+    EXPECT_EQ(ElementFile(PathOf(u"a.eld"_s)).GetObjectCount(), row.objects) << row.name;
+    EXPECT_EQ(Files(), QStringList{u"a.eld"_s}) << row.name;
+    EXPECT_EQ(Read(u"a.eld"_s), row.bytes) << row.name;
+    QFile::remove(PathOf(u"a.eld"_s));
+  }
 }
 
 TEST_F(ElementFileTest, AHalfWrittenTemporaryFileIsNotTakenForTheFile) {
   QByteArray unfinished = Joined({MakeObject(u"a"_s, 2)});
   unfinished[0] = '\0';
-  for (const QByteArray& temporary :
-       {unfinished, QByteArray(), QByteArray("C"), QByteArray(417, 'x')}) {
+  for (const QByteArray& temporary : {unfinished, unfinished.left(1), unfinished.left(500)}) {
     Write(u"a.$$E"_s, temporary);
     EXPECT_FALSE(ElementFile(PathOf(u"a.eld"_s)).Open());
     EXPECT_EQ(Read(u"a.$$E"_s), temporary);
@@ -180,6 +196,84 @@ TEST_F(ElementFileTest, ALinkStaysALink) {
   QFile::rename(PathOf(u"real/b.eld"_s), PathOf(u"real/b.$$E"_s));
   EXPECT_EQ(ElementFile(PathOf(u"a.eld"_s)).GetObjectCount(), 1);
   EXPECT_TRUE(QFileInfo::exists(PathOf(u"real/b.eld"_s)));
+}
+
+/// Writing behind this size fails, as on a full disk.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &before_); }
+  Q_DISABLE_COPY_MOVE(FileSizeLimit)
+
+ private:
+  rlimit before_{};
+};
+
+TEST_F(ElementFileTest, AFullDiskIsToldByTheStepAndChangesNothing) {
+  const QByteArray bytes =
+      Joined({MakeObject(u"a"_s, 1), MakeObject(u"b"_s, 1), MakeObject(u"c"_s, 1)});
+  struct Case {
+    rlim_t limit;
+    int message;
+  };
+  const Case cases[] = {{0, 13469},         {1, 13469},       {416, 13469}, {417, 13470},
+                        {417 + 417, 13470}, {3 * 417, 13471}, {2000, 13471}};
+  for (const Case& row : cases) {
+    ElementFile file(Write(u"a.eld"_s, bytes));
+    {
+      const FileSizeLimit full(row.limit);
+      EXPECT_EQ(file.WriteElement(1, MakeObject(u"b"_s, 3)), -1) << row.limit;
+    }
+    EXPECT_EQ(file.ErrorText(), LoadString(row.message)) << row.limit;
+    EXPECT_EQ(Read(u"a.eld"_s), bytes);
+    EXPECT_EQ(Files(), QStringList{u"a.eld"_s});
+    // With room again the same file object goes on.
+    EXPECT_EQ(file.WriteElement(1, MakeObject(u"b"_s, 3)), 1);
+  }
+}
+
+TEST_F(ElementFileTest, AnAppendingThatFailsHalfwayLeavesNoPartOfARecord) {
+  const QByteArray bytes = Joined({MakeObject(u"a"_s, 1)});
+  ElementFile file(Write(u"a.eld"_s, bytes));
+  EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u"b")), -1);
+  {
+    const FileSizeLimit full(1000);
+    EXPECT_EQ(file.WriteElement(-1, MakeObject(u"b"_s, 2)), -1);
+  }
+  EXPECT_EQ(file.ErrorText(), LoadString(13466));
+  EXPECT_EQ(Read(u"a.eld"_s), bytes);
+  EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u"b")), -1);
+  EXPECT_EQ(file.WriteElement(-1, MakeObject(u"b"_s, 2)), 1);
+  EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(u"B")), 1);
+}
+
+TEST_F(ElementFileTest, PositionsReachBehindTwoAndFourGigabytes) {
+  for (const std::int64_t record : {6'000'000, 12'000'000}) {
+    const std::int64_t position = record * kElementRecordSize;
+    QFile sparse(Write(u"a.eld"_s, {}));
+    ASSERT_TRUE(sparse.open(QIODevice::ReadWrite) && sparse.seek(position));
+    sparse.write(Joined({MakeObject(u"far"_s, 2)}));
+    sparse.close();
+    ElementFile file(PathOf(u"a.eld"_s));
+    EXPECT_EQ(file.CountElementRecords(position), 2);
+    EXPECT_TRUE(file.ReplaceUnchanged(position, MakeObject(u"far"_s, 2), MakeObject(u"new"_s, 2)));
+    EXPECT_EQ(file.ReadRecords(position), MakeObject(u"new"_s, 2));
+    EXPECT_TRUE(file.AppendRecords(MakeObject(u"last"_s, 1)));
+    EXPECT_EQ(file.Size(), position + 3 * kElementRecordSize);
+  }
+}
+
+TEST_F(ElementFileTest, WhatStandsAtNoRecordIsNotWrittenOver) {
+  const QByteArray shifted = "junk\r\n" + Joined({MakeObject(u"a"_s, 1)});
+  ElementFile file(Write(u"a.eld"_s, shifted));
+  EXPECT_EQ(file.WriteElement(0, MakeObject(u"a"_s, 1, u"new"_s)), -1);
+  EXPECT_EQ(file.ErrorText(), FilledString(13456, {u"6"_s}));
+  EXPECT_EQ(Read(u"a.eld"_s), shifted);
 }
 
 TEST_F(ElementFileTest, TheElementFileIsNeverItsOwnTemporaryFile) {

@@ -2,6 +2,8 @@
 // file.
 #include "elements/element_importer.h"
 
+#include <functional>
+
 #include <QDir>
 
 #include "resources/string_table.h"
@@ -33,9 +35,11 @@ class PreparedDecisions final : public ImportDecisions {
   void ShowPlain(const QString& text) override { log += u"plain ["_s + text.left(1) + u"]\n"_s; }
 
   QString log;
+  std::function<void()> onQuestion;
 
  private:
   Answer Next() {
+    if (onQuestion) onQuestion();
     if (answers_.empty()) {
       ADD_FAILURE() << "one question too many";
       return {};
@@ -100,7 +104,7 @@ TEST_F(ElementImporterTest, DecidesByIdentifierModeAndEditedMark) {
 
 TEST_F(ElementImporterTest, EveryAnswerAboutADuplicateDoesWhatItSays) {
   const QByteArray fresh = MakeRecord('C', u"2p"_s, u"新"_s);
-  const QByteArray old = MakeRecord('C', u"2P"_s, u"旧"_s);
+  const QByteArray& old = Edited();
   const QByteArray renamed = WithIdentifierBytes(fresh, QByteArray("3P\0            ", 15));
   struct Case {
     int flags;
@@ -120,10 +124,12 @@ TEST_F(ElementImporterTest, EveryAnswerAboutADuplicateDoesWhatItSays) {
       {0x010, {}, 0, 0x010, fresh},
       {0x018, {}, 0, 0x018, fresh},
   };
-  for (const Case& row : cases) {
-    EXPECT_EQ(Run(fresh, old, ImportMode::Import, row.flags, row.answers), row.result);
-    EXPECT_EQ(flags_, row.flagsAfter);
-    EXPECT_EQ(Target(), row.target) << row.flagsAfter;
+  for (const ImportMode mode : {ImportMode::Import, ImportMode::Update}) {
+    for (const Case& row : cases) {
+      EXPECT_EQ(Run(fresh, old, mode, row.flags, row.answers), row.result);
+      EXPECT_EQ(flags_, row.flagsAfter);
+      EXPECT_EQ(Target(), row.target) << row.flagsAfter;
+    }
   }
   Run(fresh, old, ImportMode::Import, 0, {{4, u" "_s}, {4, u"2p"_s}, {0}});
   EXPECT_EQ(log_,
@@ -201,6 +207,147 @@ TEST_F(ElementImporterTest, LinesThatEndEarlyAreFilledUp) {
     EXPECT_EQ(Target(), row.padded) << row.content;
     EXPECT_EQ(Run(source, {}, ImportMode::Import, 0, {}, 1), 0);
     EXPECT_EQ(Target(), MakeRecord('C', u"3P"_s));
+  }
+}
+
+/// One word of flags goes through a whole run: what was said of all later ones is not asked again,
+/// and what was said of one does not hold for the next.
+TEST_F(ElementImporterTest, DecisionsHoldForTheRestOfARun) {
+  const QByteArray target = Joined({MakeObject(u"a"_s, 1, u"旧"_s), MakeObject(u"b"_s, 2, u"旧"_s),
+                                    MakeObject(u"c"_s, 1, u"旧"_s)});
+  const std::vector<ElementRecords> objects = {MakeObject(u"A"_s, 2), MakeObject({}, 1),
+                                               MakeObject(u"d"_s, 1), MakeObject({}, 2),
+                                               MakeObject(u"B"_s, 1), MakeObject(u"D"_s, 3)};
+  const QString source = Write(u"source.eld"_s, Joined(objects));
+  struct Case {
+    std::vector<ImportDecisions::Answer> answers;
+    std::vector<int> results;
+    int flags;
+    QByteArray target;
+  };
+  const Case cases[] = {
+      {{{1}, {1}}, {-1, -1, 3, -1, -1, -1}, 0x208, target + objects[2][0]},
+      {{{3}, {1}},
+       {0, -1, 3, -1, 1, 3},
+       0x212,
+       Joined({objects[0], objects[4], MakeObject(u"c"_s, 1, u"旧"_s), objects[5]})},
+      {{{0}, {0}, {1}, {0}, {2}}, {-1, -1, 3, -1, -1, 3}, 0x303, target + Joined({objects[5]})},
+      {{{2}, {2, u"c"_s}, {0}, {3}},
+       {0, 1, 3, -1, 1, 3},
+       0x112,
+       Joined({objects[0], objects[4], MakeObject(u"c"_s, 1, u"旧"_s), objects[5]})},
+  };
+  for (const Case& row : cases) {
+    const QString path = Write(u"target.eld"_s, target);
+    PreparedDecisions decisions(row.answers);
+    int flags = 0;
+    for (int object = 0; object < 6; ++object) {
+      ElementImporter importer(path, decisions);
+      EXPECT_EQ(importer.DoImportElement(source, object, &flags, ImportMode::Import),
+                row.results[object])
+          << decisions.log.toStdString();
+    }
+    EXPECT_EQ(flags, row.flags);
+    EXPECT_EQ(Target(), row.target) << row.flags;
+  }
+}
+
+TEST_F(ElementImporterTest, AnObjectEndsAtTheFirstOtherRecord) {
+  const QByteArray first = MakeRecord('C', u"2P"_s, u"名"_s);
+  const QByteArray page = MakeRecord('+', u"2P"_s);
+  struct Case {
+    const char* name;
+    QByteArray source;
+    QByteArray target;
+  };
+  const Case cases[] = {
+      {"pages that end early", first.left(254) + "\r\n" + page.left(203) + "\r\n" + page,
+       first + page + page},
+      {"a placeholder", first + MakeRecord('N', {}) + page, first},
+      {"a last line without its end", first + page.left(415), first},
+      {"a line of another length", first + page.left(300) + "\r\n", first},
+      {"pages before the object", page + first, first},
+      {"a minor planet", first + MakeRecord('M', u"3"_s), first},
+  };
+  for (const Case& row : cases) {
+    EXPECT_EQ(Run(row.source, {}, ImportMode::Import, 0), 0) << row.name;
+    EXPECT_EQ(Target(), row.target) << row.name;
+    EXPECT_EQ(error_ + log_, QString()) << row.name;
+  }
+}
+
+TEST_F(ElementImporterTest, ANameThatIsCutWithinACharacterIsAskedWithoutIt) {
+  QByteArray record = MakeRecord('C', u"2P"_s, u"星"_s.repeated(29) + u'x');
+  record[311] = '\x90';
+  Run(record, Edited(), ImportMode::Import, 0, {{0}});
+  EXPECT_EQ(log_, QString(u"duplicate 2P "_s + u"星"_s.repeated(29) + u"x\n"_s));
+  QByteArray nameless = record;
+  nameless.replace(188, 2, "  ");
+  Run(nameless, Edited(), ImportMode::Update, 0, {{0}});
+  EXPECT_EQ(log_, QString(u"blank "_s + u"星"_s.repeated(29) + u"x\n"_s));
+}
+
+/// What is wrong with the target is told, and the target stays as it was.
+TEST_F(ElementImporterTest, FailuresOfTheTargetAreToldByTheirNumbers) {
+  const QByteArray fresh = MakeRecord('C', u"2P"_s);
+  const QByteArray longer = fresh + MakeRecord('+', u"2P"_s);
+  const QByteArray old = MakeRecord('C', u"2P"_s, u"旧"_s);
+  struct Case {
+    const char* name;
+    QByteArray source;
+    QByteArray target;
+    QString message;
+  };
+  const Case cases[] = {
+      {"an object at no record", fresh, "junk\r\n" + old, FilledString(13456, {u"6"_s})},
+      {"an object without a line end", fresh, old.left(415), LoadString(13453)},
+      {"the same behind another", fresh, MakeRecord('C', u"1P"_s) + old.left(300),
+       LoadString(13453)},
+      {"an end within a record", MakeRecord('C', u"3P"_s), old + "tail",
+       FilledString(13458, {u"0"_s})},
+  };
+  for (const Case& row : cases) {
+    EXPECT_EQ(Run(row.source, row.target, ImportMode::Update, 0), -2) << row.name;
+    EXPECT_EQ(error_.toStdString(), row.message.toStdString()) << row.name;
+    EXPECT_EQ(Target(), row.target) << row.name;
+  }
+  for (const QString& target : {PathOf(u"none.eld"_s), PathOf({}), QString()}) {
+    PreparedDecisions decisions({});
+    ElementImporter importer(target, decisions);
+    int flags = 0;
+    const QString source = Write(u"source.eld"_s, longer);
+    EXPECT_EQ(importer.DoImportElement(source, 0, &flags, ImportMode::Update), -2);
+    EXPECT_EQ(importer.ErrorText(), FilledString(13461, {target}));
+    EXPECT_EQ(Files(), (QStringList{u"source.eld"_s, u"target.eld"_s}));
+  }
+}
+
+/// While a person thinks, others may use the file.
+TEST_F(ElementImporterTest, WhatHappensToTheTargetDuringAQuestionIsSeen) {
+  const QByteArray fresh = MakeRecord('C', u"2p"_s, u"新"_s);
+  const QByteArray other = MakeRecord('C', u"1P"_s);
+  const QString source = Write(u"source.eld"_s, fresh);
+  const QString path = PathOf(u"target.eld"_s);
+  struct Case {
+    std::function<void()> change;
+    int result;
+    QByteArray target;
+  };
+  const Case cases[] = {
+      {[&] { Write(u"target.eld"_s, other + Edited()); }, 1, other + fresh},
+      {[&] { Write(u"target.eld"_s, other); }, 1, other + fresh},
+      {[&] { ElementFile(path).WriteElement(-1, MakeObject(u"x"_s, 1)); }, 0,
+       fresh + MakeRecord('C', u"x"_s)},
+      {[&] { QFile::remove(path); }, -2, "(no file)"},
+  };
+  for (const Case& row : cases) {
+    Write(u"target.eld"_s, Edited());
+    PreparedDecisions decisions(std::vector<ImportDecisions::Answer>{{2}});
+    decisions.onQuestion = row.change;
+    ElementImporter importer(path, decisions);
+    int flags = 0;
+    EXPECT_EQ(importer.DoImportElement(source, 0, &flags, ImportMode::Import), row.result);
+    EXPECT_EQ(Target(), row.target);
   }
 }
 

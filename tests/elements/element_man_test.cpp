@@ -13,6 +13,7 @@
 #include "elements/element_import.h"
 #include "elements/element_man_edit_dialog.h"
 #include "engine/reference_engine.h"
+#include "engine/watched_cor_vyn.h"
 #include "resources/string_table.h"
 #include "tests/elements/element_case.h"
 
@@ -197,6 +198,109 @@ TEST_F(ElementManTest, DeletesFirstMiddleAndLastObjects) {
   EXPECT_EQ(EngineIdentifiers(), "a c ");
   EXPECT_EQ(Manager().DeleteObject(0), 1);
   EXPECT_EQ(File(), objects[2][0]);
+}
+
+TEST_F(ElementManTest, TheOnlyObjectIsDeletedAndAnotherOneTakesItsPlace) {
+  Load({WholeObject(u"a"_s, 2)});
+  EXPECT_EQ(Manager().DeleteObject(0), 1);
+  engine_.Doit(u"Solar.Comet.No1.DataRemove = True"_s);
+  EXPECT_EQ(File(), QByteArray());
+  EXPECT_EQ(engine_.Doit(u"? Solar.Comet.Count; ? Solar.COMET.DataPtr"_s), u"0"_s);
+  Person person({[](QWidget* editor) {
+    Type(editor, 1601, u"new"_s);
+    Click(editor, kOk);
+  }});
+  EXPECT_EQ(Manager().AddNewObject(), 1);
+  engine_.Doit(u"Solar.Comet.DataAdd = True"_s);
+  EXPECT_EQ(EngineIdentifiers(), "new ");
+  std::int32_t flags = 0;
+  const QString source = Write(u"source.eld"_s, Joined({WholeObject(u"b"_s, 3)}));
+  EXPECT_EQ(CElementImport(1, &engine_).ImportElement(source, 0, &flags, &window_), 1);
+  engine_.Doit(u"Solar.Comet.DataAdd = True"_s);
+  EXPECT_EQ(EngineIdentifiers(), "new b ");
+}
+
+TEST_F(ElementManTest, WithoutItsFirstPageAnObjectBeginsWithTheNext) {
+  Load({WholeObject(u"a"_s, 1), WholeObject(u"b"_s, 3), WholeObject(u"c"_s, 1)});
+  ElementRecords pages = WholeObject(u"b"_s, 3);
+  WriteText(pages[1], ElementField::Memo, u"second"_s);
+  WriteText(pages[2], ElementField::Memo, u"third"_s);
+  Load({WholeObject(u"a"_s, 1), pages, WholeObject(u"c"_s, 1)});
+  Person person({[](QWidget* editor) {
+    Click(editor, 1671);
+    Click(editor, kOk);
+  }});
+  EXPECT_EQ(Manager().EditObject(1), 1);
+  const QByteArray first = Marked(pages[1]).replace(0, 1, "C");
+  EXPECT_EQ(File(), Joined({WholeObject(u"a"_s, 1), {first, pages[2]}, WholeObject(u"c"_s, 1)}));
+}
+
+/// The file is not what the person has seen: nothing is written.
+TEST_F(ElementManTest, AnObjectThatChangesBehindTheEditorIsKept) {
+  Load({WholeObject(u"a"_s, 1), WholeObject(u"b"_s, 1)});
+  const std::vector<ElementRecords> others[] = {
+      {WholeObject(u"b"_s, 1)},
+      {WholeObject(u"a"_s, 2), WholeObject(u"b"_s, 1)},
+      {},
+  };
+  for (const auto& objects : others) {
+    Load({WholeObject(u"a"_s, 1), WholeObject(u"b"_s, 1)});
+    Person person({[&](QWidget* editor) {
+      QFile::remove(path_);  // the engine has the old file in memory
+      Write(u"comets.eld"_s, Joined(objects));
+      Type(editor, 1641, u"12"_s);
+      Click(editor, kOk);
+    }});
+    EXPECT_EQ(Manager().EditObject(0), 0);
+    EXPECT_EQ(File(), Joined(objects));
+    EXPECT_EQ(Files(), QStringList{u"comets.eld"_s});
+  }
+}
+
+TEST_F(ElementManTest, ANewObjectNeedsAFile) {
+  Load({WholeObject(u"a"_s, 1)});
+  QFile::remove(path_);
+  const auto typeNew = [](QWidget* editor) {
+    Type(editor, 1601, u"new"_s);
+    Click(editor, kOk);
+  };
+  Person person({typeNew, typeNew});
+  EXPECT_EQ(Manager().AddNewObject(), 0);
+  EXPECT_EQ(Files(), QStringList());
+  EXPECT_EQ(CElementMan().AddNewObject(), 0) << "without an engine";
+}
+
+TEST_F(ElementManTest, AsksTheEngineForItsKindInTurn) {
+  QByteArray planet = TemplateRecord('M', 2020);
+  WriteText(planet, ElementField::Identifier, u"1"_s);
+  const QString path = Write(u"planets.eld"_s, planet + planet);
+  const QString empty = Write(u"empty.eld"_s, {});
+  engine_.Doit(u"Solar.MinorPlanet.File = \"%1\""_s.arg(path));
+  QStringList commands;
+  WatchedCorVyn watched(engine_, [&](const QString& command) { commands += command; });
+  CElementMan manager(0, &watched, nullptr, &window_);
+  const auto sent = [&commands] { return std::exchange(commands, {}).join(u'|').toStdString(); };
+  EXPECT_EQ(manager.DeleteObject(1), 1);
+  EXPECT_EQ(sent(), "? Solar.MINORPLANET.DataPtr|? solar.MINORPLANET.file");
+  engine_.Doit(u"Solar.MinorPlanet.No2.DataRemove = True"_s);
+  Person person({[](QWidget* editor) { Click(editor, kCancel); },
+                 [](QWidget* editor) {
+                   Click(editor, 1611);
+                   Type(editor, 1601, u"2"_s);
+                   Click(editor, kOk);
+                 },
+                 Message(QMessageBox::Warning, FilledString(13355, {u"小惑星"_s, empty}))});
+  EXPECT_EQ(manager.EditObject(0), 0);
+  EXPECT_EQ(sent(), "? Solar.MINORPLANET.DataPtr|? solar.MINORPLANET.file");
+  EXPECT_EQ(manager.AddNewObject(), 1);
+  EXPECT_EQ(Read(u"planets.eld"_s).at(417), 'M');
+  EXPECT_TRUE(sent().ends_with("|? solar.MINORPLANET.file")) << "once the editor is closed";
+  EXPECT_EQ(manager.CountObjects(empty), 0);
+  EXPECT_EQ(sent(), "");
+  EXPECT_EQ(manager.CheckElementFile(empty), 1);
+  EXPECT_EQ(sent(), "? solar.MINORPLANET.file");
+  EXPECT_EQ(CElementImport(0, &watched).GetFileName(), path);
+  EXPECT_EQ(sent(), "? solar.MINORPLANET.file");
 }
 
 TEST_F(ElementManTest, WhatTheEngineHasNotLoadedIsNotTouched) {

@@ -33,7 +33,13 @@ object() {
 # The object in work is called B; what is checked is all the others. Placeholders are no objects.
 others() { grep -av -e '^N ' -e 'B              ' "$1"; }
 
-objects_before() { object A 2 old; object B "$1" old; object C 3 old; object D 1 old; }
+# With `alone` there are no others.
+alone=
+objects_before() {
+  [[ $alone ]] || object A 2 old
+  object B "$1" old
+  [[ $alone ]] || { object C 3 old; object D 1 old; }
+}
 
 # prepare PAGES: the target with object B of so many pages, and the sources.
 prepare() {
@@ -105,6 +111,9 @@ shrink=("$vyn_eld" import shrunk.eld run/t.eld "${overwrite[@]}")
 sweep 'growing import' 1 "${grow[@]}"
 sweep 'shrinking import' 3 "${shrink[@]}"
 sweep 'deletion' 2 "$vyn_eld" delete run/t.eld B
+alone=yes
+sweep 'deletion of the only object' 2 "$vyn_eld" delete run/t.eld B
+alone=
 sweep 'growing edit' 1 "$edit_object" run/t.eld 2 3
 sweep 'shrinking edit' 3 "$edit_object" run/t.eld 2 1
 

@@ -109,7 +109,7 @@ std::int64_t ElementImporter::ImportRecordSeekPos(const QString& source, int obj
 
 bool ElementImporter::ReadImportElements(const QString& source, std::int64_t position,
                                          ElementRecords& records) {
-  if (!source_.IsOpen()) return Fail(13447, {source});
+  if (!OpenSource(source)) return Fail(13447, {source});
   RecordWindow window(source_);
   try {
     QByteArray record;

@@ -1,5 +1,7 @@
 #include "image_data/number_dialog.h"
 
+#include "siblings/controls/controls.h"
+
 namespace vyn {
 namespace {
 
@@ -52,8 +54,8 @@ void CNumberDialog::DoDataExchange(CDataExchange& exchange) {
 void CNumberDialog::OnEnChange(const NumberField& field) {
   if (unfinished_ == &field) unfinished_ = nullptr;
   Pull();
-  unfinished_ = field.Value(record_) < field.minimum ? &field : nullptr;
-  typed_ = &field;
+  typed_ = static_cast<CVynEdit*>(GetDlgItem(field.edit))->IsBeingTyped() ? &field : nullptr;
+  unfinished_ = field.Value(record_) < field.minimum ? typed_ : nullptr;
   ClampTyped(field);
   Push();
   OnNumberTyped(field);
@@ -61,7 +63,8 @@ void CNumberDialog::OnEnChange(const NumberField& field) {
 }
 
 /// Who types "0.2" must not find "0.000" after the first key: the text stays as long as it means
-/// the value, and also while it is below its range, which what is typed next may mend.
+/// the value, and also while it is below its range, which what is typed next may mend. What is
+/// pasted is whole.
 bool CNumberDialog::KeepsItsText(const NumberField& field) const {
   if (&field != typed_) return false;
   DataSetRecord shown = record_;

@@ -99,8 +99,8 @@ void CDlgTakenImg::UpdateDataSetLst() {
   const int count = AskInt(LayerPath() + u".count");
   for (int number = 1; number <= count; ++number) {
     const QString path = Member(LayerPath(), number);
-    const QString label = Ask(path + u".Label");
     const QString imagePath = Ask(path + u".imagefile");
+    const QString label = Ask(path + u".Label");
     const CalendarDate moment = DateInZone(AskDouble(path + u".time"), 0.0);
     AddRow(MakeTitle(moment, true, imagePath), LabelToNo(label, number));
   }

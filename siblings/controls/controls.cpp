@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QStyleOptionButton>
 #include <QStyleOptionSpinBox>
 #include <QTimerEvent>
@@ -79,6 +80,16 @@ void CVynButton::paintEvent(QPaintEvent* event) {
   style()->drawItemPixmap(
       &painter, rect(), Qt::AlignCenter,
       isEnabled() ? picture_ : style()->generatedIconPixmap(QIcon::Disabled, picture_, &option));
+}
+
+void CVynEdit::keyPressEvent(QKeyEvent* event) {
+  const QScopedValueRollback typing(isBeingTyped_, !event->matches(QKeySequence::Paste));
+  QLineEdit::keyPressEvent(event);
+}
+
+void CVynEdit::inputMethodEvent(QInputMethodEvent* event) {
+  const QScopedValueRollback typing(isBeingTyped_, true);
+  QLineEdit::inputMethodEvent(event);
 }
 
 void CVynRadioButton::keyPressEvent(QKeyEvent* event) {

@@ -92,6 +92,17 @@ class VYN_EXPORT CVynEdit : public QLineEdit {
 
  public:
   using QLineEdit::QLineEdit;
+
+  /// Whether the change that is being told comes from the keyboard, so that more of the text may
+  /// follow; not so for a pasted text.
+  bool IsBeingTyped() const { return isBeingTyped_; }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+
+ private:
+  bool isBeingTyped_ = false;
 };
 
 class VYN_EXPORT CVynListBox : public QListWidget {

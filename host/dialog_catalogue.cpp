@@ -126,8 +126,9 @@ constexpr char16_t kDustTrailHelp[] =
 流星群のもとになるダストトレイルを一覧し、表示と軌道を切り替えます。
 )";
 
+// Not constexpr: the sanitizers' build takes no view of so long a text as a constant.
 // clang-format off
-constexpr DialogEntry kDialogs[] = {
+const DialogEntry kDialogs[] = {
   {13004, u"sun_moon",       u"太陽・月(&S)...",         &Make<CDlgSun>,           u"太陽・月の名称", u"太陽 Sun",   kSunHelp},
   {13002, u"planets",        u"惑星(&P)...",             &Make<CDlgPlanet>,        u"惑星の名称",     u"木星 Jupiter", kPlanetHelp},
   {13005, u"dwarf_planets",  u"準惑星(&D)...",           &Make<CDlgDwarfPlanet>,   u"準惑星の名称",   u"冥王星 Pluto", kDwarfPlanetHelp},

@@ -71,6 +71,7 @@ Frame ReadFrame(ReferenceEngine& engine, const QSizeF& size) {
   frame.size = size;
   frame.view = ReadViewState(engine);
   frame.display = ReadDisplayState(engine);
+  frame.overlays = ReadOverlays(engine);
   frame.scene = BuildScene(engine, frame.view.kind);
   AddSatellites(frame.display.satellites, frame.view.kind, &frame.scene);
   const CalendarDate date = LocalDate(engine);

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include "host/display_state.h"
+#include "host/image_overlays.h"
 #include "host/scene.h"
 #include "host/view_state.h"
 
@@ -19,6 +20,7 @@ struct Frame {
   QSizeF size;  ///< of the picture, in pixels
   ViewState view;
   DisplayState display;
+  Overlays overlays;
   Scene scene;
   QString dateText;    ///< for labels, in the engine's time zone
   QString momentText;  ///< date and time

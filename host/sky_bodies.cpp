@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/disk_painter.h"
+#include "host/overlay_painter.h"
 #include "host/place_names.h"
 #include "host/satellite_painter.h"
 #include "host/sky_canvas.h"
@@ -64,6 +65,10 @@ void PaintDisk(SkyCanvas& canvas, const SceneBody& body, const Disk& disk,
     PaintMoonDisk(canvas, disk, display);
   } else {
     PaintPlanetDisk(canvas, body, disk);
+  }
+  if (const BodyOverlays* overlays = canvas.frame.overlays.Of(body.body)) {
+    PaintSurfaceOverlays(canvas.painter, body.body, disk, *overlays);
+    PaintImageOverlays(canvas.painter, disk, *overlays);
   }
   if (display.grid) PaintGrid(canvas.painter, disk);
   PaintPlaceNames(canvas.painter, body.body, disk, display, canvas.labels);

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "host/disk_painter.h"
+#include "host/overlay_painter.h"
 #include "host/place_names.h"
 #include "host/satellite_painter.h"
 #include "host/solar_canvas.h"
@@ -64,6 +65,10 @@ void PaintDisk(SolarCanvas& canvas, const SceneBody& body, const Disk& disk,
     PaintMoonDisk(canvas, disk, display);
   } else {
     PaintLitSurface(canvas.painter, disk);
+  }
+  // A photograph as it was taken has no place here: from outside the Earth's sky is not seen.
+  if (const BodyOverlays* overlays = canvas.frame.overlays.Of(body.body)) {
+    PaintSurfaceOverlays(canvas.painter, body.body, disk, *overlays);
   }
   if (display.grid) PaintGrid(canvas.painter, disk);
   PaintPlaceNames(canvas.painter, body.body, disk, display, canvas.labels);

@@ -126,6 +126,21 @@ constexpr char16_t kDustTrailHelp[] =
 流星群のもとになるダストトレイルを一覧し、表示と軌道を切り替えます。
 )";
 
+constexpr char16_t kCometTailHelp[] =
+    uR"(# テイル編集
+
+彗星のテイルの描き方を決めます。変更はすぐに星図に反映されます。
+
+- **放出期間** 何日前までに放出された塵やイオンを描くか。**自動調整** では太陽から遠いほど長くなります。
+- **βmin**・**βmax** 塵が太陽の光から受ける力と重力との比の範囲です。
+- **アウトライン表示** は縁の線を描きます。
+
+「キャンセル」で開いたときの状態に戻ります。
+)";
+
+/// Opened on a comet, not from the list of dialogs.
+const DialogEntry kCometTail = {13011, u"comet_tail", u"", nullptr, u"", u"", kCometTailHelp};
+
 // Not constexpr: the sanitizers' build takes no view of so long a text as a constant.
 // clang-format off
 const DialogEntry kDialogs[] = {
@@ -151,6 +166,7 @@ const DialogEntry kDialogs[] = {
 std::span<const DialogEntry> DialogCatalogue() { return kDialogs; }
 
 const DialogEntry* FindDialog(int templateNumber) {
+  if (templateNumber == kCometTail.templateNumber) return &kCometTail;
   const auto found = std::find_if(
       std::begin(kDialogs), std::end(kDialogs),
       [=](const DialogEntry& entry) { return entry.templateNumber == templateNumber; });

@@ -1,6 +1,7 @@
 #include "host/main_window.h"
 
 #include <QApplication>
+#include <QMenu>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
@@ -13,6 +14,8 @@
 #include "host/menus.h"
 #include "host/site_dialog.h"
 #include "host/sky_view.h"
+#include "siblings/controls/object_list_box.h"
+#include "small_bodies/comet_tail_dialog.h"
 
 namespace vyn {
 namespace {
@@ -20,7 +23,17 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int kClockTickMs = 50;
+constexpr int kCometTemplate = 13000;
+constexpr int kCometList = 1705;
 constexpr double kMillisecondsPerDay = 86400000.0;
+
+/// False for a dialog that is not open; one that is closing is deleted a moment later.
+bool BringToFront(CVynDialog* dialog) {
+  if (dialog == nullptr || !dialog->isVisible()) return false;
+  dialog->raise();
+  dialog->activateWindow();
+  return true;
+}
 
 }  // namespace
 
@@ -35,6 +48,7 @@ MainWindow::MainWindow(ReferenceEngine& engine)
   resizeDocks({panel_}, {130}, Qt::Vertical);
   BuildMenus(*this);
   engine_.SetRedrawHandler([view = view_] { view->update(); });
+  connect(view_, &SkyView::cometMenuRequested, this, &MainWindow::ShowCometMenu);
   clock_.setInterval(kClockTickMs);
   connect(&clock_, &QTimer::timeout, this, &MainWindow::OnClock);
 }
@@ -43,21 +57,57 @@ MainWindow::~MainWindow() { engine_.SetRedrawHandler(nullptr); }
 
 QString MainWindow::Send(const QString& command) { return watched_.Doit(command); }
 
-/// After Cancel a dialog asks for no redraw, so the window does.
 CVynDialog* MainWindow::OpenDialog(const DialogEntry& entry) {
   QPointer<CVynDialog>& dialog = dialogs_[entry.templateNumber];
-  // One that is closing is deleted a moment later.
-  if (dialog != nullptr && dialog->isVisible()) {
-    dialog->raise();
-    dialog->activateWindow();
-    return dialog;
-  }
-  dialog = entry.make(&watched_, nullptr, this);
+  if (BringToFront(dialog)) return dialog;
+  dialog = Open(entry.make(&watched_, nullptr, this));
+  if (entry.templateNumber == kCometTemplate) OfferCometMenuIn(*dialog);
+  return dialog;
+}
+
+CVynDialog* MainWindow::OpenCometTail(const QString& objectPath) {
+  QPointer<CVynDialog>& dialog = cometTails_[objectPath];
+  if (BringToFront(dialog)) return dialog;
+  auto* tails = new CDlgCometTail(objectPath, this);
+  tails->SetCorVyn(&watched_, nullptr);
+  dialog = Open(tails);
+  return dialog;
+}
+
+/// After Cancel a dialog asks for no redraw, so the window does.
+CVynDialog* MainWindow::Open(CVynDialog* dialog) {
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &CVynDialog::helpRequested, this, &MainWindow::ShowHelp);
   connect(dialog, &QDialog::finished, this, [this] { Send(u"Show Sky"_s); });
   dialog->Create();
   return dialog;
+}
+
+QString MainWindow::SelectedComet() const {
+  const auto found = dialogs_.find(kCometTemplate);
+  if (found == dialogs_.end() || found->second == nullptr) return {};
+  const auto* list = static_cast<CVynListBoxAObj*>(found->second->GetDlgItem(kCometList));
+  const qint64 row = list->GetValueSelect();
+  return row < 0 ? QString() : u"Solar.Comet.No"_s + QString::number(row + 1);
+}
+
+void MainWindow::OfferCometMenuIn(CVynDialog& cometDialog) {
+  QWidget* list = cometDialog.GetDlgItem(kCometList);
+  list->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(list, &QWidget::customContextMenuRequested, this, [this, list](const QPoint& at) {
+    if (const QString comet = SelectedComet(); !comet.isEmpty()) {
+      ShowCometMenu(comet, list->mapToGlobal(at));
+    }
+  });
+}
+
+void MainWindow::ShowCometMenu(const QString& objectPath, const QPoint& globalPosition) {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addSection(engine_.Property(objectPath + u".ID"));
+  connect(menu->addAction(u"テイル編集(&T)..."_s), &QAction::triggered, this,
+          [this, objectPath] { OpenCometTail(objectPath); });
+  menu->popup(globalPosition);
 }
 
 void MainWindow::ShowHelp(int templateNumber) {

@@ -35,6 +35,11 @@ class MainWindow final : public QMainWindow {
   /// Opens the dialog beside the window, or brings it to the front when it is open.
   CVynDialog* OpenDialog(const DialogEntry& entry);
 
+  /// Opens the dialog on the tails of a comet, by its path in the core engine.
+  CVynDialog* OpenCometTail(const QString& objectPath);
+  /// The comet whose row is selected in its dialog; empty when there is none.
+  QString SelectedComet() const;
+
   void ShowHelp(int templateNumber);
 
   // What the menus do.
@@ -54,6 +59,9 @@ class MainWindow final : public QMainWindow {
   bool event(QEvent* event) override;
 
  private:
+  CVynDialog* Open(CVynDialog* dialog);
+  void ShowCometMenu(const QString& objectPath, const QPoint& globalPosition);
+  void OfferCometMenuIn(CVynDialog& cometDialog);
   void AnswerTextRequest(const CVynMessage& message) const;
   void OnClock();
 
@@ -61,7 +69,8 @@ class MainWindow final : public QMainWindow {
   WatchedCorVyn watched_;
   SkyView* view_;
   CommandPanel* panel_;
-  std::map<int, QPointer<CVynDialog>> dialogs_;  ///< by template
+  std::map<int, QPointer<CVynDialog>> dialogs_;         ///< by template
+  std::map<QString, QPointer<CVynDialog>> cometTails_;  ///< by the comet's path
   QTimer clock_;
   QElapsedTimer sinceTick_;
   double clockSpeed_ = 0.0;

@@ -105,6 +105,10 @@ class MenuBuilder {
     QObject::connect(action, &QAction::triggered, action, refresh);
   }
 
+  void WhenShown(std::function<void()> act) {
+    QObject::connect(&menu_, &QMenu::aboutToShow, &menu_, std::move(act));
+  }
+
   void AddSeparator() { menu_.addSeparator(); }
 
  private:
@@ -120,6 +124,9 @@ void BuildDialogMenu(MainWindow& window) {
   for (const DialogEntry& entry : DialogCatalogue()) {
     menu.Add(entry.menuText, [&window, &entry] { window.OpenDialog(entry); });
   }
+  QAction* tails = menu.Add(u"選択した彗星のテイル(&L)...",
+                            [&window] { window.OpenCometTail(window.SelectedComet()); });
+  menu.WhenShown([&window, tails] { tails->setEnabled(!window.SelectedComet().isEmpty()); });
   menu.AddSeparator();
   menu.Add(
       u"終了(&X)", [&window] { window.close(); }, u"Ctrl+Q");

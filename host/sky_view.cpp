@@ -3,11 +3,13 @@
 #include <array>
 #include <cmath>
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
+#include "host/comet_picker.h"
 #include "host/sky_canvas.h"
 
 namespace vyn {
@@ -41,6 +43,11 @@ SkyView::SkyView(ReferenceEngine& engine, Send send, QWidget* parent)
 void SkyView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   PaintFrame(painter, ReadFrame(engine_, size()));
+}
+
+void SkyView::contextMenuEvent(QContextMenuEvent* event) {
+  const QString comet = CometAt(ReadFrame(engine_, size()), event->pos());
+  if (!comet.isEmpty()) Q_EMIT cometMenuRequested(comet, event->globalPos());
 }
 
 void SkyView::mousePressEvent(QMouseEvent* event) {

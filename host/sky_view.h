@@ -27,7 +27,12 @@ class SkyView final : public QWidget {
   /// Moves the view as a drag by so many pixels does.
   void Drag(const QPointF& from, const QPointF& to);
 
+ Q_SIGNALS:
+  /// A menu was asked for on a comet, by its path in the core engine.
+  void cometMenuRequested(const QString& objectPath, const QPoint& globalPosition);
+
  protected:
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;

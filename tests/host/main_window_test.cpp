@@ -1,4 +1,8 @@
+#include <algorithm>
+
 #include <QAction>
+#include <QContextMenuEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTemporaryDir>
@@ -9,12 +13,15 @@
 #include "core_link/dialog.h"
 #include "core_link/window_message.h"
 #include "engine/reference_engine.h"
+#include "host/comet_picker.h"
 #include "host/command_panel.h"
 #include "host/dialog_catalogue.h"
 #include "host/main_window.h"
 #include "host/sky_canvas.h"
 #include "host/sky_view.h"
+#include "host/solar_canvas.h"
 #include "resources/dialog_template.h"
+#include "siblings/controls/object_list_box.h"
 #include "siblings/registry/registry.h"
 
 namespace vyn {
@@ -51,6 +58,13 @@ class MainWindowTest : public testing::Test {
     QAction* action = Action(text);
     for (QMenu* menu : window_->findChildren<QMenu*>()) Q_EMIT menu->aboutToShow();
     return action != nullptr && action->isChecked();
+  }
+
+  QMenu* PopUp() {
+    for (QMenu* menu : window_->findChildren<QMenu*>()) {
+      if (menu->isVisible()) return menu;
+    }
+    return nullptr;
   }
 
   QTemporaryDir settings_;
@@ -157,6 +171,71 @@ TEST_F(MainWindowTest, WheelZoomsTheSkyAndTheSolarSystem) {
   const double before = ReadViewState(engine_).distanceAu;
   window_->View().Zoom(-1.0);
   EXPECT_GT(ReadViewState(engine_).distanceAu, before);
+}
+
+class CometTailTest : public MainWindowTest {
+ protected:
+  CometTailTest() {
+    engine_.LoadElements(ElementKind::Comet, QStringLiteral(VYN_DATA_DIR "/comets.eld"));
+    window_->Send(u"View.Projection = SolarSystem; View.Center = Solar.Sun; Show Sky"_s);
+  }
+
+  static QString Comet(CVynDialog* tails) {
+    return static_cast<QLabel*>(tails->GetDlgItem(1951))->text();
+  }
+
+  CVynDialog* OpenTails() {
+    for (CVynDialog* dialog : window_->findChildren<CVynDialog*>()) {
+      if (dialog->TemplateNumber() == 13011 && dialog->isVisible()) return dialog;
+    }
+    return nullptr;
+  }
+};
+
+TEST_F(CometTailTest, OpensFromTheMenuOnACometInTheSky) {
+  const Frame frame = ReadFrame(engine_, window_->View().size());
+  QPainter unused;
+  const SolarCanvas canvas(unused, frame);
+  const auto apart = std::find_if(frame.scene.comets.begin(), frame.scene.comets.end(),
+                                  [&](const SceneSmallBody& comet) {
+                                    const auto at = canvas.camera.ToPicture(comet.heliocentric);
+                                    return at && canvas.IsInPicture(*at, -20.0);
+                                  });
+  ASSERT_NE(apart, frame.scene.comets.end());
+  const QPoint at = canvas.camera.ToPicture(apart->heliocentric)->toPoint();
+  const auto ask = [this](const QPoint& at) {
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, window_->View().mapToGlobal(at));
+    QApplication::sendEvent(&window_->View(), &event);
+  };
+  ask({3, 3});
+  EXPECT_EQ(PopUp(), nullptr);
+  ask(at);
+  ASSERT_NE(PopUp(), nullptr);
+  PopUp()->actions().last()->trigger();
+  CVynDialog* tails = OpenTails();
+  ASSERT_NE(tails, nullptr);
+  const QString path = CometAt(frame, at);
+  EXPECT_TRUE(Comet(tails).contains(engine_.Property(path + u".ID"))) << qPrintable(path);
+  EXPECT_EQ(window_->OpenCometTail(path), tails);
+}
+
+TEST_F(CometTailTest, OpensOnTheRowThatIsSelectedInTheDialog) {
+  QAction* entry = Action(u"選択した彗星のテイル(&L)..."_s);
+  const auto isOffered = [&] {
+    for (QMenu* menu : window_->findChildren<QMenu*>()) Q_EMIT menu->aboutToShow();
+    return entry->isEnabled();
+  };
+  EXPECT_FALSE(isOffered());
+  CVynDialog* comets = window_->OpenDialog(*FindDialog(13000));
+  EXPECT_FALSE(isOffered());
+  auto* list = static_cast<CVynListBoxAObj*>(comets->GetDlgItem(1705));
+  list->SetValueSelect(4, 1, 1);
+  EXPECT_TRUE(isOffered());
+  Q_EMIT list->customContextMenuRequested({10, 60});
+  ASSERT_NE(PopUp(), nullptr);
+  PopUp()->actions().last()->trigger();
+  ASSERT_NE(OpenTails(), nullptr);
+  EXPECT_TRUE(Comet(OpenTails()).contains(engine_.Property(u"Solar.Comet.No5.ID"_s)));
 }
 
 }  // namespace

@@ -20,7 +20,8 @@ namespace {
 using namespace Qt::StringLiterals;
 
 struct Options {
-  QString elements;
+  QString comets;
+  QString minorPlanets;
   QString tour;
   std::optional<double> moment;
 };
@@ -38,13 +39,14 @@ std::optional<Options> ReadOptions(int argc, char** argv) {
   parser.addHelpOption();
   parser.addOptions({
       {u"elements"_s, u"Shows the comets of this element file."_s, u"file"_s},
+      {u"minor-planets"_s, u"Shows the minor planets of this element file."_s, u"file"_s},
       {u"time"_s, u"The moment shown, Japan standard time: YYYY-MM-DDThh:mm:ss."_s, u"moment"_s},
       {u"tour"_s, u"Writes pictures of the window and of every dialog into this folder."_s,
        u"folder"_s},
   });
   parser.process(application);
-  Options options{parser.value(u"elements"_s), parser.value(u"tour"_s),
-                  vyn::ReadMoment(parser.value(u"time"_s))};
+  Options options{parser.value(u"elements"_s), parser.value(u"minor-planets"_s),
+                  parser.value(u"tour"_s), vyn::ReadMoment(parser.value(u"time"_s))};
   if (parser.isSet(u"time"_s) && !options.moment) {
     Refuse(u"--time takes a moment such as 2026-01-01T21:00:00"_s);
     return std::nullopt;
@@ -58,16 +60,25 @@ void LookTheSame() {
   QApplication::setFont(QFont(u"IPAPGothic"_s, 10));
 }
 
-bool PrepareEngine(vyn::ReferenceEngine& engine, const Options& options) {
-  engine.LoadStartingState();
-  if (!options.elements.isEmpty()) return vyn::LoadComets(engine, options.elements);
-  const QString file = vyn::FindCometFile();
+/// False when the file that was asked for cannot be used. The tour changes nothing, so it shows the
+/// demo's own files.
+bool LoadElements(vyn::ReferenceEngine& engine, vyn::ElementKind kind, const QString& wanted,
+                  bool isTour) {
+  if (!wanted.isEmpty()) return vyn::LoadElements(engine, kind, wanted);
+  const QString file = isTour ? vyn::FindElementFile(kind) : vyn::UsersElementFile(kind);
   if (file.isEmpty()) {
-    Refuse(u"the file comets.eld was not found; no comets are shown"_s);
+    Refuse(u"an element file of the demo was not found; its objects are not shown"_s);
   } else {
-    vyn::LoadComets(engine, file);
+    vyn::LoadElements(engine, kind, file);
   }
   return true;
+}
+
+bool PrepareEngine(vyn::ReferenceEngine& engine, const Options& options) {
+  engine.LoadStartingState();
+  const bool isTour = !options.tour.isEmpty();
+  return LoadElements(engine, vyn::ElementKind::Comet, options.comets, isTour) &&
+         LoadElements(engine, vyn::ElementKind::MinorPlanet, options.minorPlanets, isTour);
 }
 
 int Run(QApplication& application, const Options& options) {

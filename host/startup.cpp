@@ -1,11 +1,12 @@
 #include "host/startup.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QStandardPaths>
@@ -33,6 +34,12 @@ void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
   std::_Exit(EXIT_FAILURE);
 }
 
+QString NameOf(ElementKind kind) {
+  return kind == ElementKind::Comet ? u"comets.eld"_s : u"minor_planets.eld"_s;
+}
+
+QString UserFolder() { return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation); }
+
 }  // namespace
 
 void ExplainMissingDisplay() { previousHandler = qInstallMessageHandler(HandleMessage); }
@@ -46,27 +53,39 @@ bool HasJapaneseFont() {
   return false;
 }
 
-QString FindCometFile() {
-  const QString folder = QCoreApplication::applicationDirPath();
-  const std::array<QString, 4> candidates{
-      folder + u"/comets.eld"_s, folder + u"/../share/vyn-planetarium/comets.eld"_s,
-      folder + u"/../../../data/comets.eld"_s, QStringLiteral(VYN_DATA_DIR "/comets.eld")};
-  const auto found = std::find_if(candidates.begin(), candidates.end(),
-                                  [](const QString& path) { return QFileInfo::exists(path); });
-  return found != candidates.end() ? QFileInfo(*found).canonicalFilePath() : QString();
+QString FindElementFile(ElementKind kind) {
+  const QString program = QCoreApplication::applicationDirPath();
+  const std::array<QString, 4> folders{program, program + u"/../share/vyn-planetarium"_s,
+                                       program + u"/../../../data"_s, QStringLiteral(VYN_DATA_DIR)};
+  for (const QString& folder : folders) {
+    const QFileInfo file(folder + u'/' + NameOf(kind));
+    if (file.exists()) return file.canonicalFilePath();
+  }
+  return {};
 }
 
-bool LoadComets(ReferenceEngine& engine, const QString& path) {
-  const bool isLoaded = engine.LoadElements(ElementKind::Comet, path);
-  for (const ElementProblem& problem : engine.Elements(ElementKind::Comet).Problems()) {
+QString UsersElementFile(ElementKind kind) {
+  const QString demos = FindElementFile(kind);
+  const QDir folder(UserFolder());
+  const QString own = folder.filePath(NameOf(kind));
+  const bool isThere = QFileInfo::exists(own) ||
+                       (!demos.isEmpty() && folder.mkpath(u"."_s) && QFile::copy(demos, own));
+  if (!isThere) return demos;
+  // The demo's may be read-only, and so the copy.
+  QFile::setPermissions(own, QFile::permissions(own) | QFile::WriteOwner);
+  return own;
+}
+
+bool LoadElements(ReferenceEngine& engine, ElementKind kind, const QString& path) {
+  const bool isLoaded = engine.LoadElements(kind, path);
+  for (const ElementProblem& problem : engine.Elements(kind).Problems()) {
     std::fprintf(stderr, "vyn-planetarium: %s\n", qPrintable(problem.Text()));
   }
   return isLoaded;
 }
 
 void LoadUserData(ReferenceEngine& engine) {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-  for (const QString& problem : engine.LoadDataSets(folder)) {
+  for (const QString& problem : engine.LoadDataSets(UserFolder())) {
     std::fprintf(stderr, "vyn-planetarium: %s\n", qPrintable(problem));
   }
   CDlgPlanetTex::SendDefaults(engine);

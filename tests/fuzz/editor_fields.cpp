@@ -21,8 +21,10 @@ void MustChangeOnly(const RecordField& field, const QByteArray& before, const QB
   VYN_MUST(after.sliced(field.offset + field.width) == before.sliced(field.offset + field.width));
 }
 
-/// Whether the text's digits stand in the field as they are.
+/// Whether the text's digits stand in the field as they are. Months and days, which are padded with
+/// zeros, are never negative.
 bool Fits(const RecordField& field, const QString& text) {
+  if (field.zeroPadded && text.startsWith(QLatin1Char('-'))) return false;
   const qsizetype point = text.indexOf(QLatin1Char('.'));
   const qsizetype integers = point < 0 ? text.size() : point;
   return integers <= field.integerWidth && text.size() - integers <= field.decimals + 1 &&

@@ -2,8 +2,9 @@
 
 #include <array>
 #include <limits>
-#include <set>
 #include <vector>
+
+#include <QStringList>
 
 #include "core_link/reply.h"
 
@@ -24,17 +25,26 @@ void SetMember(PropertyTree& tree, const QString& memberPath, QStringView word, 
   tree.SetValue(tree.Make(memberPath + u'.' + word), value);
 }
 
-/// Labels stay with their images when others are deleted, so a new one is one that nobody bears.
-QString FreeLabel(PropertyTree& tree, const QString& basePath, int number) {
-  std::set<QString> taken;
+QStringList LabelsIn(PropertyTree& tree, const QString& basePath) {
+  QStringList labels;
   if (PropertyNode* base = tree.Find(basePath)) {
-    tree.ForEachValue(*base, [&taken](const PropertyNode& node) {
-      if (SameWord(node.Word(), u"Label")) taken.insert(node.value);
+    tree.ForEachValue(*base, [&labels](const PropertyNode& node) {
+      if (SameWord(node.Word(), u"Label") && !node.value.isEmpty()) labels += node.value;
     });
   }
+  return labels;
+}
+
+/// Labels stay with their images when others are deleted, so a new one is one that nobody bears. It
+/// has the letter and the digits of those there, because dialogs learn them from the first they
+/// meet.
+QString FreeLabel(PropertyTree& tree, const QString& basePath, int number) {
+  const QStringList taken = LabelsIn(tree, basePath);
+  const QString model = taken.isEmpty() ? u"I01"_s : taken.first();
+  const int digits = model.size() <= 5 ? static_cast<int>(model.size()) - 1 : 0;
   for (int n = number;; ++n) {
-    QString label = u"I%1"_s.arg(n, 2, 10, QChar(u'0'));
-    if (!taken.contains(label)) return label;
+    const QString label = model.front() + u"%1"_s.arg(n, digits, 10, QChar(u'0'));
+    if (!taken.contains(label, Qt::CaseInsensitive)) return label;
   }
 }
 

@@ -154,6 +154,18 @@ TEST(DataSets, SpotsAndLabelsAreKept) {
   EXPECT_EQ(later.Doit(u"? solar.sun.takenimage.#I01.roll"_s), u"12"_s);
 }
 
+TEST(DataSets, ANewLabelIsLikeThoseThere) {
+  ReferenceEngine engine;
+  for (const auto& [first, next] : std::initializer_list<std::pair<QString, QString>>{
+           {u"S07"_s, u"S02"_s}, {u"a002"_s, u"a003"_s}, {u"A00005"_s, u"A2"_s}}) {
+    engine.Reset();
+    engine.SetProperty(u"Solar.Sun.TakenImage.Count"_s, u"1"_s);
+    engine.SetProperty(u"Solar.Sun.TakenImage.#1.Label"_s, first);
+    engine.Doit(u"Solar.Sun.TakenImage.Add()"_s);
+    EXPECT_EQ(engine.Property(u"Solar.Sun.TakenImage.#2.Label"_s), next);
+  }
+}
+
 TEST(DataSets, NewOnesStartFromTheStartingState) {
   ReferenceEngine engine;
   engine.Doit(u"Time.JD = 2460000.5; Solar.Sun.Corona.Add()"_s);

@@ -31,8 +31,11 @@ QString CleanPath(const QString& path) {
   return path.isEmpty() ? QString() : QDir::cleanPath(CCommonFile::OpenablePath(path));
 }
 
+/// Empty where none is named. A relative one is none, so that a folder of another system, such as
+/// "C:\\images", does not come into being wherever the program happens to run.
 QString FolderOf(const PropertyTree& tree, const QString& basePath) {
-  return CleanPath(ValueAt(tree, basePath + u".SavePath"_s));
+  const QString folder = CleanPath(ValueAt(tree, basePath + u".SavePath"_s));
+  return QDir::isAbsolutePath(folder) ? folder : QString();
 }
 
 /// What stands below a set's path; the set's own value is its switch.

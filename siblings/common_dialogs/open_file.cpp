@@ -24,7 +24,8 @@ QStringList NameFilters(const QString& filter) {
 
 QString AskAnyFile(QWidget* parent, const QString& currentPath) {
   return AskOpenFile(parent, {.title = QStringLiteral("ファイルを開く"),
-                              .folder = CCommonFile::GetPathName(currentPath)});
+                              .folder = CCommonFile::GetPathName(currentPath),
+                              .mustExist = false});
 }
 
 QString AskOpenFile(QWidget* parent, const OpenFileQuestion& question) {

@@ -17,7 +17,8 @@ struct OpenFileQuestion {
   bool mustExist = true;
 };
 
-/// Any existing file, beginning in the folder of `currentPath`.
+/// Any file, beginning in the folder of `currentPath`. One that is not there is told when it is
+/// loaded, not here.
 VYN_EXPORT QString AskAnyFile(QWidget* parent, const QString& currentPath);
 
 /// The path of the chosen file as the system writes it; empty when the user cancelled.

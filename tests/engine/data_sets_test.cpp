@@ -104,8 +104,11 @@ TEST_F(DataSetFilesTest, OnlyTextFilesInTheFolderAreWritten) {
   }
   EXPECT_FALSE(QFile::exists(outside));
   EXPECT_TRUE(Files().isEmpty());
-  Send(u"Solar.Sun.Corona.SavePath.Forget(); Solar.Sun.Corona.save()"_s);
-  EXPECT_NE(Send(u"? Solar.Sun.Corona.Problem"_s), u""_s);
+  for (const QString& folder : {u".Forget()"_s, u" = images"_s}) {
+    Send(u"Solar.Sun.Corona.SavePath"_s + folder + u"; Solar.Sun.Corona.save()");
+    EXPECT_NE(Send(u"? Solar.Sun.Corona.Problem"_s), u""_s) << folder.toStdString();
+  }
+  EXPECT_FALSE(QFile::exists(u"images"_s));
 }
 
 TEST_F(DataSetFilesTest, AFailedWriteLeavesTheOldFile) {

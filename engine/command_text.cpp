@@ -9,8 +9,15 @@ bool IsRefusedControl(QChar c) {
   return c.unicode() < 0x20 && c != u'\t' && c != u'\r' && c != u'\n';
 }
 
+bool HasRefusedControl(QStringView text) {
+  bool has = false;
+  for (const QChar c : text) has |= IsRefusedControl(c);
+  return has;
+}
+
 /// Control characters have a place only inside quotes, where texts are kept as they are.
 bool HasBareControl(QStringView text) {
+  if (!HasRefusedControl(text)) return false;
   bool quoted = false;
   for (const QChar c : text) {
     if (c == u'"') quoted = !quoted;
@@ -62,7 +69,10 @@ Statement ParseStatement(QStringView text) {
   return text[position] == u'(' ? ParseCall(text, position) : Statement{};
 }
 
-CommandText::CommandText(QStringView text) : text_(text), lastClosing_(text.lastIndexOf(u')')) {
+CommandText::CommandText(QStringView text)
+    : text_(text), isPlain_(!text.contains(u'"') && !text.contains(u')')) {
+  if (isPlain_) return;
+  lastClosing_ = text.lastIndexOf(u')');
   if (text.count(u'"') % 2 != 0) position_ = text.size();
 }
 
@@ -79,6 +89,11 @@ bool CommandText::Next(Statement* statement) {
 /// A parenthesis that nothing closes any more does not hold statements together.
 QStringView CommandText::CutStatement() {
   const qsizetype begin = position_;
+  if (isPlain_) {
+    const qsizetype end = text_.indexOf(u';', begin);
+    position_ = (end < 0 ? text_.size() : end) + 1;
+    return text_.sliced(begin, position_ - 1 - begin);
+  }
   bool quoted = false;
   int depth = 0;
   for (; position_ < text_.size(); ++position_) {

@@ -42,6 +42,7 @@ class CommandText {
   QStringView CutStatement();
 
   QStringView text_;
+  bool isPlain_;  ///< without quotes and closing parentheses: every ";" separates
   qsizetype position_ = 0;
   qsizetype lastClosing_ = -1;
 };

@@ -189,6 +189,13 @@ QString ElementClass::DataPtr() const {
       QString::number(table_->Count()), AddressText(table_->FirstRecords().data()));
 }
 
+std::optional<QString> ElementClass::Text(int object, QStringView feature) const {
+  for (const ObjectText& text : kObjectTexts) {
+    if (text.feature == feature) return text.read(*table_, object);
+  }
+  return std::nullopt;
+}
+
 std::optional<QString> ElementClass::Answer(int object, QStringView feature) const {
   const int number = ObjectSwitchOf(feature);
   if (number >= 0) return switches_[number].Text(object);

@@ -42,6 +42,9 @@ class ElementClass {
   /// empty without an object.
   QString DataPtr() const;
 
+  /// The object's text with this feature, spelled as in "EnglishName"; nothing for another feature.
+  std::optional<QString> Text(int object, QStringView feature) const;
+
   /// The object's own text with this feature ("ID", "EnglishName" ...) or its switch; nothing when
   /// the feature is neither.
   std::optional<QString> Answer(int object, QStringView feature) const;

@@ -53,6 +53,11 @@ PropertyNode* PropertyTree::Find(QStringView path) const {
   return node;
 }
 
+bool PropertyTree::HasValuesWithin(QStringView canonicalPath) const {
+  const PropertyNode* node = FindIn(canonicalPath);
+  return node != nullptr && node->valuesWithin > 0;
+}
+
 QString PropertyTree::Canonical(QStringView path) const {
   QString canonical = CanonicalPath(path);
   if (!HasLabel(canonical)) return canonical;
@@ -94,6 +99,7 @@ PropertyNode& PropertyTree::Insert(const QString& path, PropertyNode& parent) {
   node.path = path;
   node.parent = &parent;
   node.role = RoleOf(path);
+  hasElementObjects_ |= node.role == PathRole::ElementClass && ObjectNumber(node.Word());
   parent.children.push_back(&node);
   index_.emplace(path, &node);
   return node;
@@ -173,6 +179,7 @@ void PropertyTree::Clear() {
   aliases_.clear();
   nodes_.clear();
   root_ = {};
+  hasElementObjects_ = false;
 }
 
 }  // namespace vyn

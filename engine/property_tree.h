@@ -37,6 +37,12 @@ class PropertyTree {
   /// The node of a path in any of its spellings; null when there is none.
   PropertyNode* Find(QStringView path) const;
 
+  /// Whether a value is kept at or below a path, which is to be spelled canonically.
+  bool HasValuesWithin(QStringView canonicalPath) const;
+
+  /// Whether an object of an element class, or what is below it, ever had a value.
+  bool HasElementObjects() const { return hasElementObjects_; }
+
   /// The canonical path, with members called by their label ("#A07") called by their number; empty
   /// for what is no path.
   QString Canonical(QStringView path) const;
@@ -77,6 +83,7 @@ class PropertyTree {
   PropertyNode root_;
   std::deque<PropertyNode> nodes_;
   Index index_;
+  bool hasElementObjects_ = false;
   /// Further spellings by which nodes were asked for.
   mutable Index aliases_;
 };

@@ -117,8 +117,8 @@ QString ReferenceEngine::Doit(const QString& command) {
   Statement statement;
   QString reply;
   while (text.Next(&statement)) {
-    const QString part = impl_->CarryOut(statement);
-    reply = reply.isEmpty() ? part : reply + part;
+    QString part = impl_->CarryOut(statement);
+    reply.isEmpty() ? reply.swap(part) : void(reply += part);
   }
   return reply;
 }

@@ -43,6 +43,20 @@ constexpr ShowingReason kShowingReasons[]{
 };
 // clang-format on
 
+constexpr QStringView kMemberPrefix = u".No";
+
+/// 0 for all but the digits of a number that has no leading zeros.
+int PlainNumber(QStringView digits) {
+  constexpr qsizetype kMostDigits = 9;
+  if (digits.size() > kMostDigits || digits.startsWith(u'0')) return 0;
+  int number = 0;
+  for (const QChar c : digits) {
+    if (c < u'0' || c > u'9') return 0;
+    number = number * 10 + (c.unicode() - u'0');
+  }
+  return number;
+}
+
 QString TruthText(bool on) { return on ? u"TRUE"_s : u"FALSE"_s; }
 
 }  // namespace
@@ -53,10 +67,29 @@ World::World()
       observerBody_(static_cast<int>(Body::Earth)) {}
 
 QString World::Read(QStringView path) {
+  if (auto text = ReadObjectText(path)) return *std::move(text);
   const PropertyNode* node = tree_.Find(path);
   if (node != nullptr && node->hasValue) return node->value;
   const QString canonical = node != nullptr ? node->path : tree_.Canonical(path);
   return canonical.isEmpty() ? QString() : Compute(canonical);
+}
+
+/// The texts of objects as the dialogs ask for them: a search does so a million times. Nothing for
+/// any other spelling, and for an object that may answer otherwise than from its file.
+std::optional<QString> World::ReadObjectText(QStringView path) const {
+  for (const ElementClass& elements : elements_) {
+    if (!path.startsWith(elements.Path())) continue;
+    const qsizetype numberBegin = elements.Path().size() + kMemberPrefix.size();
+    const qsizetype numberEnd = path.indexOf(u'.', numberBegin);
+    if (numberEnd < 0 || path.sliced(elements.Path().size(), kMemberPrefix.size()) != kMemberPrefix)
+      return std::nullopt;
+    const int number = PlainNumber(path.sliced(numberBegin, numberEnd - numberBegin));
+    if (number < 1 || number > elements.Count()) return std::nullopt;
+    if (tree_.HasElementObjects() && tree_.HasValuesWithin(path.first(numberEnd)))
+      return std::nullopt;
+    return elements.Text(number - 1, path.sliced(numberEnd + 1));
+  }
+  return std::nullopt;
 }
 
 QString World::Compute(const QString& path) {

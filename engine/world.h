@@ -4,6 +4,7 @@
 
 #include <array>
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -85,6 +86,7 @@ class World {
   };
 
   QString Compute(const QString& path);
+  std::optional<QString> ReadObjectText(QStringView path) const;
   QString ReadStatus(const QString& path);
   QString ReadElements(const QString& path);
   QString ReadObject(const Object& object);

@@ -17,6 +17,18 @@ constexpr int kSearchName = 13376, kNothingToSearch = 13377, kNotFound = 13378;
 
 QString SettingName(int number) { return FilledString(kSearchName, {QString::number(number)}); }
 
+/// As QString::toUpper, but quicker for the names of a million objects, nearly all of them ASCII.
+QString UpperCased(QString text) {
+  char16_t all = 0;
+  for (const QChar c : std::as_const(text)) all |= c.unicode();
+  if (all >= 0x80) return std::move(text).toUpper();
+  for (QChar& c : text) {
+    const bool isLower = static_cast<unsigned>(c.unicode()) - u'a' < 26U;
+    c = QChar(static_cast<char16_t>(c.unicode() - (isLower ? 0x20 : 0)));
+  }
+  return text;
+}
+
 }  // namespace
 
 void CDlgElementClass::LoadSearchHistory() {
@@ -68,10 +80,10 @@ qint64 CDlgElementClass::FindObject(const QString& upperText, qint64 row, int di
   const WaitCursor wait;
   const qint64 count = ObjectList().GetValueCountTotal();
   for (; row >= 0 && row < count; row += direction) {
-    const QString query = u"? " + ObjectPath(row);
-    const QString names =
-        Doit(query + u".ID; " + query + u".JapaneseName; " + query + u".EnglishName");
-    if (names.toUpper().contains(upperText)) return row;
+    const QString path = ObjectPath(row);
+    QString names =
+        Doit(u"? " + path + u".ID; ? " + path + u".JapaneseName; ? " + path + u".EnglishName");
+    if (UpperCased(std::move(names)).contains(upperText)) return row;
   }
   return -1;
 }

@@ -87,6 +87,27 @@ TEST_F(ElementClassTest, PutValuesStandBeforeTheFileUntilAssigned) {
   EXPECT_EQ(Ask(u"? Solar.Comet.Count; ? Solar.Comet.No1.Individual"_s), u"4FALSE"_s);
 }
 
+TEST_F(ElementClassTest, EverySpellingOfATextAnswersTheSame) {
+  const auto expectAll = [this](const QString& text) {
+    for (const QString& path :
+         {u"Solar.Comet.No2.ID"_s, u"solar.comet.no2.id"_s, u"Solar.Comet.No02.ID"_s,
+          u" Solar.Comet.No2.ID "_s, u"Solar.Comet.No2.Id"_s}) {
+      EXPECT_EQ(Ask(u"? "_s + path), text) << path.toStdString();
+      EXPECT_EQ(Ask(u"? "_s + path + u"; Other = \"a;b\"; "_s), text) << path.toStdString();
+    }
+  };
+  expectAll(Identifier(1));
+  Ask(u"Solar.Comet.No2.AutoEmissionSpan = TRUE"_s);
+  expectAll(Identifier(1));
+  engine_.SetProperty(u"Solar.Comet.No2.ID"_s, u"mine"_s);
+  expectAll(u"mine"_s);
+  for (const QString& none : {u"No0.ID"_s, u"No-1.ID"_s, u"No5.ID"_s, u"No12345678901.ID"_s,
+                              u"No.ID"_s, u"No2x.ID"_s, u"No2."_s}) {
+    EXPECT_EQ(Ask(u"? Solar.Comet."_s + none), u""_s) << none.toStdString();
+  }
+  EXPECT_EQ(Ask(u"? Solar.Comet.No3.ID; ? Solar.Comet.No4.ID"_s), Identifier(2) + Identifier(3));
+}
+
 TEST_F(ElementClassTest, InitAndTheScriptBringSwitchesBack) {
   Ask(u"Solar.Comet.Orbit.Visible = true; Solar.Comet.No2.Orbit.Visible = FALSE;"
       u"Solar.Comet.No3.Individual.Visible = TRUE; Solar.Comet.Brighter.Magnitude = 9.5"_s);

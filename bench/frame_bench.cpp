@@ -7,6 +7,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "bench/large_file.h"
 #include "engine/reference_engine.h"
 #include "host/frame.h"
 
@@ -53,6 +54,42 @@ void ReadOneFrame(benchmark::State& state) {
   while (state.KeepRunning()) benchmark::DoNotOptimize(vyn::ReadFrame(engine, {1280.0, 800.0}));
 }
 
+/// All known minor planets as points; `jump` days pass from one frame to the next, 0 for a picture
+/// that is only turned.
+void MinorPlanetFrame(benchmark::State& state, const QString& commands, double jump) {
+  vyn::ReferenceEngine engine;
+  engine.LoadStartingState();
+  if (!engine.LoadElements(vyn::ElementKind::MinorPlanet,
+                           vyn::LargeElementFile(vyn::kManyObjects))) {
+    state.SkipWithError("the large file could not be written");
+  }
+  engine.Doit(u"Solar.MinorPlanet = TRUE; Solar.MinorPlanet.Individual = TRUE;"_s + commands);
+  QImage image(1280, 800, QImage::Format_ARGB32_Premultiplied);
+  double jd = engine.JulianDate();
+  std::size_t shown = 0;
+  while (state.KeepRunning()) {
+    if (jump != 0.0) {
+      engine.Doit(u"Time.JD = %1"_s.arg(jd += jump, 0, 'f', 6));
+    }
+    const vyn::Frame frame = vyn::ReadFrame(engine, image.size());
+    shown = frame.scene.minorPlanetPoints.shown.size();
+    QPainter painter(&image);
+    vyn::PaintFrame(painter, frame);
+  }
+  state.counters["shown"] = static_cast<double>(shown);
+}
+
+const QString kOutside = u"View.Projection = SolarSystem; View.Center = Solar.Sun"_s;
+
+BENCHMARK_CAPTURE(MinorPlanetFrame, OutsideTurned, kOutside, 0.0)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+BENCHMARK_CAPTURE(MinorPlanetFrame, OutsideMoving, kOutside, 1.0)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+BENCHMARK_CAPTURE(MinorPlanetFrame, SkyTurned, QString(), 0.0)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 BENCHMARK(SkyFrame)->Unit(benchmark::kMillisecond);
 BENCHMARK(SkyFrameWithDustLight)->Unit(benchmark::kMillisecond);
 BENCHMARK(SkyFrameWithCometNames)->Unit(benchmark::kMillisecond);

@@ -1,12 +1,7 @@
 // What loading an element file and reckoning places costs.
-#include <cstring>
-
-#include <QFile>
-#include <QTemporaryDir>
-
 #include <benchmark/benchmark.h>
 
-#include "elements/element_record.h"
+#include "bench/large_file.h"
 #include "engine/element_table.h"
 #include "engine/sky/eclipses.h"
 #include "engine/sky/sky_snapshot.h"
@@ -14,23 +9,7 @@
 namespace vyn {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 const QString kComets = QStringLiteral(VYN_DATA_DIR "/comets.eld");
-
-/// A file of as many objects, the real comets over and over.
-QString LargeFile(const QTemporaryDir& folder, int objects) {
-  QFile comets(kComets);
-  if (!comets.open(QIODevice::ReadOnly)) return {};
-  const QByteArray block = comets.readAll();
-  const QString path = folder.filePath(u"large.eld"_s);
-  QFile large(path);
-  if (!large.open(QIODevice::WriteOnly)) return {};
-  for (qint64 rest = qint64{objects} * kElementRecordSize; rest > 0; rest -= block.size()) {
-    large.write(block.constData(), std::min<qint64>(rest, block.size()));
-  }
-  return path;
-}
 
 void LoadComets(benchmark::State& state) {
   for (auto _ : state) {
@@ -41,14 +20,13 @@ void LoadComets(benchmark::State& state) {
 BENCHMARK(LoadComets)->Unit(benchmark::kMillisecond);
 
 void LoadLargeFile(benchmark::State& state) {
-  const QTemporaryDir folder;
-  const QString path = LargeFile(folder, static_cast<int>(state.range(0)));
+  const QString path = LargeElementFile(static_cast<int>(state.range(0)));
   for (auto _ : state) {
     ElementTable table;
     if (!table.Load(path)) state.SkipWithError("the large file could not be written");
   }
 }
-BENCHMARK(LoadLargeFile)->Arg(1400000)->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(LoadLargeFile)->Arg(kManyObjects)->Unit(benchmark::kMillisecond)->Iterations(3);
 
 constexpr double kJdUt = 2461042.0;
 constexpr Site kTokyo{139.7447, 35.6544, 40.0};
@@ -72,9 +50,8 @@ void PlaceComets(benchmark::State& state) {
 BENCHMARK(PlaceComets)->Unit(benchmark::kMillisecond);
 
 void PlaceLargeFile(benchmark::State& state) {
-  const QTemporaryDir folder;
   ElementTable table;
-  if (!table.Load(LargeFile(folder, static_cast<int>(state.range(0))))) {
+  if (!table.Load(LargeElementFile(static_cast<int>(state.range(0))))) {
     state.SkipWithError("the large file could not be written");
   }
   SmallBodyPlaces places;
@@ -82,17 +59,16 @@ void PlaceLargeFile(benchmark::State& state) {
   const SkySnapshot sky(kJdUt, kTokyo);
   for (auto _ : state) places.Update(sky);
 }
-BENCHMARK(PlaceLargeFile)->Arg(1400000)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(PlaceLargeFile)->Arg(kManyObjects)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void SearchIdentifier(benchmark::State& state) {
-  const QTemporaryDir folder;
   ElementTable table;
-  if (!table.Load(LargeFile(folder, static_cast<int>(state.range(0))))) {
+  if (!table.Load(LargeElementFile(static_cast<int>(state.range(0))))) {
     state.SkipWithError("the large file could not be written");
   }
   for (auto _ : state) benchmark::DoNotOptimize(table.IndexOf(u"no such object"));
 }
-BENCHMARK(SearchIdentifier)->Arg(1400000)->Unit(benchmark::kMillisecond);
+BENCHMARK(SearchIdentifier)->Arg(kManyObjects)->Unit(benchmark::kMillisecond);
 
 void FindEclipse(benchmark::State& state) {
   double jd = kJdUt;

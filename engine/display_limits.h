@@ -6,8 +6,6 @@
 #include <optional>
 #include <vector>
 
-#include "engine/sky/kepler.h"
-
 namespace vyn {
 
 class ElementTable;
@@ -25,23 +23,20 @@ struct DisplayLimits {
   std::uint32_t spectralTypes = 0;  ///< bit n: the letter 'A' + n is ticked
   LimitMoment moment;
 
+  bool operator==(const DisplayLimits&) const = default;
   bool AreInForce() const { return faintest || orbitalTypes != 0 || spectralTypes != 0; }
 };
 
-/// The objects that are at least so bright, kept until the moment, the limit or the table changes.
-class BrightObjects {
+/// The magnitudes for the limits, kept until the moment or the table changes: 4 bytes an object.
+class LimitMagnitudes {
  public:
-  /// One bit an object. Large tables are shared between threads.
-  const std::vector<std::uint64_t>& Bits(const ElementTable& table, const DisplayLimits& limits);
-  void TableChanged() { bits_.clear(); }
+  /// Of every object; NaN for one without absolute magnitude, which no limit lets in.
+  const std::vector<float>& At(const ElementTable& table, const LimitMoment& moment);
+  void TableChanged() { magnitudes_.clear(); }
 
  private:
-  std::vector<std::uint64_t> bits_;
-  double faintest_ = 0.0;
+  std::vector<float> magnitudes_;
   LimitMoment moment_;
 };
-
-/// Whether one object is as bright as the limit in force asks; false while none is.
-bool IsWithinMagnitude(const ElementTable& table, int object, const DisplayLimits& limits);
 
 }  // namespace vyn

@@ -117,7 +117,7 @@ void ElementClass::StartSwitches() {
 }
 
 bool ElementClass::IsWithinMagnitude(int object, const DisplayLimits& limits) const {
-  return vyn::IsWithinMagnitude(*table_, object, limits);
+  return limits.faintest && magnitudes_.At(*table_, limits.moment)[object] <= *limits.faintest;
 }
 
 bool ElementClass::IsOfTickedOrbit(int object, const DisplayLimits& limits) const {
@@ -135,14 +135,14 @@ bool ElementClass::IsShown(int object, const DisplayLimits& limits) const {
          IsOfTickedSpectrum(object, limits) || IsWithinMagnitude(object, limits);
 }
 
-/// The magnitudes, which cost most, are reckoned at once for all.
 template <typename Action>
 void ElementClass::ForEachShown(const DisplayLimits& limits, Action action) const {
-  const std::vector<std::uint64_t>* bright =
-      limits.faintest ? &bright_.Bits(*table_, limits) : nullptr;
+  const float* magnitudes =
+      limits.faintest ? magnitudes_.At(*table_, limits.moment).data() : nullptr;
+  const double faintest = limits.faintest.value_or(0.0);
   const SwitchColumn& individual = switches_[kIndividualSwitch];
   for (int object = 0; object < Count(); ++object) {
-    const bool isBright = bright != nullptr && ((*bright)[object / 64] >> (object % 64) & 1) != 0;
+    const bool isBright = magnitudes != nullptr && magnitudes[object] <= faintest;
     if (isBright || individual.IsOn(object) || IsOfTickedOrbit(object, limits) ||
         IsOfTickedSpectrum(object, limits)) {
       action(object);
@@ -152,8 +152,13 @@ void ElementClass::ForEachShown(const DisplayLimits& limits, Action action) cons
 
 int ElementClass::CountShown(const DisplayLimits& limits) const {
   if (!limits.AreInForce()) return static_cast<int>(switches_[kIndividualSwitch].OnCount());
+  const SwitchColumn& individual = switches_[kIndividualSwitch];
+  if (keptCount_.isUpToDate && keptCount_.limits == limits && keptCount_.individual == individual) {
+    return keptCount_.count;
+  }
   int count = 0;
   ForEachShown(limits, [&count](int) { ++count; });
+  keptCount_ = {limits, individual, count, true};
   return count;
 }
 
@@ -164,7 +169,8 @@ std::vector<int> ElementClass::Shown(const DisplayLimits& limits) const {
 }
 
 void ElementClass::TableChanged() {
-  bright_.TableChanged();
+  magnitudes_.TableChanged();
+  keptCount_.isUpToDate = false;
   kept_.isTableKnown = false;
   kept_.isUpToDate = false;
 }

@@ -89,7 +89,14 @@ class ElementClass {
   std::unique_ptr<ElementTable> table_;
   ObjectSwitches switches_;
   SmallBodyTypes types_;
-  mutable BrightObjects bright_;
+  mutable LimitMagnitudes magnitudes_;
+  struct KeptCount {
+    DisplayLimits limits;
+    SwitchColumn individual;
+    int count = 0;
+    bool isUpToDate = false;
+  };
+  mutable KeptCount keptCount_;
   struct KeptPlaces {
     SmallBodyPlaces places;
     double jdTt = 0.0;

@@ -22,7 +22,6 @@ constexpr double kNotKnown = std::numeric_limits<double>::quiet_NaN();
 template <typename Columns, typename Action>
 void ForEachColumn(Columns& columns, Action action) {
   action(columns.perihelionJd);
-  action(columns.epochJd);
   action(columns.perihelionDistanceAu);
   action(columns.eccentricity);
   action(columns.argumentOfPerihelionDeg);
@@ -30,11 +29,11 @@ void ForEachColumn(Columns& columns, Action action) {
   action(columns.inclinationDeg);
   action(columns.absoluteMagnitude);
   action(columns.magnitudeCoefficient);
+  action(columns.isComet);
 }
 
-void StoreRow(ElementColumns& columns, std::size_t row, const SmallBody& body) {
+void StoreRow(ElementColumns& columns, std::size_t row, const SmallBody& body, bool isComet) {
   columns.perihelionJd[row] = body.orbit.perihelionJd;
-  columns.epochJd[row] = body.epochJd;
   columns.perihelionDistanceAu[row] = body.orbit.perihelionDistanceAu;
   columns.eccentricity[row] = body.orbit.eccentricity;
   columns.argumentOfPerihelionDeg[row] = body.orbit.argumentOfPerihelionDeg;
@@ -42,6 +41,7 @@ void StoreRow(ElementColumns& columns, std::size_t row, const SmallBody& body) {
   columns.inclinationDeg[row] = body.orbit.inclinationDeg;
   columns.absoluteMagnitude[row] = static_cast<float>(body.absoluteMagnitude);
   columns.magnitudeCoefficient[row] = static_cast<float>(body.magnitudeCoefficient);
+  columns.isComet[row] = isComet ? 1 : 0;
 }
 
 /// A file as it lies in memory.
@@ -151,6 +151,7 @@ struct ElementTable::Content {
   std::string_view FirstRecordOf(int object) const {
     return Has(object) ? BytesOf(firstRecords[object]) : std::string_view();
   }
+  bool IsComet(int record) const { return KindOf(BytesOf(record)) == RecordKind::Comet; }
   bool BeginsObjectAt(int record) const {
     const std::string_view bytes = BytesOf(record);
     return RecordDefect(bytes).isNull() && BeginsObject(bytes);
@@ -178,7 +179,7 @@ struct ElementTable::Content {
     if (BeginsObject(BytesOf(record))) {
       firstRecords.push_back(record);
       ForEachColumn(columns, [](auto& column) { column.emplace_back(); });
-      StoreRow(columns, firstRecords.size() - 1, *body);
+      StoreRow(columns, firstRecords.size() - 1, *body, IsComet(record));
     } else if (firstRecords.empty()) {
       NoteProblem(record, u"the record continues no object"_s);
     }
@@ -228,7 +229,7 @@ struct ElementTable::Content {
     const int first = static_cast<int>(firstRecords[object]);
     for (int record = first; record < EndOf(object); ++record) {
       const std::optional<SmallBody> body = CheckedRecord(record);
-      if (body && record == first) StoreRow(columns, object, *body);
+      if (body && record == first) StoreRow(columns, object, *body, IsComet(record));
     }
   }
 
@@ -299,7 +300,7 @@ QString ElementTable::JapaneseName(int object) const {
   return FieldText(content_->FirstRecordOf(object), ElementField::JapaneseName);
 }
 bool ElementTable::IsComet(int object) const {
-  return KindOf(content_->FirstRecordOf(object)) == RecordKind::Comet;
+  return content_->Has(object) && content_->columns.isComet[object] != 0;
 }
 
 int ElementTable::PageCount(int object) const {

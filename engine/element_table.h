@@ -29,7 +29,6 @@ struct SmallBody {
 /// Units and missing values as in SmallBody.
 struct ElementColumns {
   std::vector<double> perihelionJd;
-  std::vector<double> epochJd;
   std::vector<double> perihelionDistanceAu;
   std::vector<double> eccentricity;
   std::vector<double> argumentOfPerihelionDeg;
@@ -37,6 +36,7 @@ struct ElementColumns {
   std::vector<double> inclinationDeg;
   std::vector<float> absoluteMagnitude;
   std::vector<float> magnitudeCoefficient;
+  std::vector<std::uint8_t> isComet;  ///< 1 for a comet, 0 for a minor planet
 };
 
 /// Something in an element file that could not be read. Records that follow one another and have

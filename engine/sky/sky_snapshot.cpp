@@ -1,32 +1,38 @@
 #include "engine/sky/sky_snapshot.h"
 
 #include <algorithm>
-#include <cmath>
+#include <atomic>
 #include <thread>
+
+#include "engine/sky/small_body_block.h"
 
 namespace vyn {
 namespace {
 
-/// What counts for a record that leaves the coefficient blank.
-constexpr double kUsualCometCoefficient = 4.0;
-constexpr double kUsualSlope = 0.15;
-
-SmallBody BodyInColumns(const ElementColumns& columns, int row) {
-  SmallBody body;
-  body.orbit = {.perihelionJd = columns.perihelionJd[row],
-                .perihelionDistanceAu = columns.perihelionDistanceAu[row],
-                .eccentricity = columns.eccentricity[row],
-                .argumentOfPerihelionDeg = columns.argumentOfPerihelionDeg[row],
-                .ascendingNodeDeg = columns.ascendingNodeDeg[row],
-                .inclinationDeg = columns.inclinationDeg[row]};
-  body.absoluteMagnitude = columns.absoluteMagnitude[row];
-  body.magnitudeCoefficient = columns.magnitudeCoefficient[row];
-  return body;
-}
-
-double CoefficientOf(const SmallBody& body, bool comet) {
-  if (!std::isnan(body.magnitudeCoefficient)) return body.magnitudeCoefficient;
-  return comet ? kUsualCometCoefficient : kUsualSlope;
+/// Calls `take(first, count, block)` for all blocks of the table, from several threads when there
+/// are many. Each thread fetches the next blocks when it has done its last, so that a core that is
+/// busy otherwise does not hold the others up.
+template <typename Take>
+void ForEachBlock(const ElementTable& table, double jdTt, const StateVector& observer, Take take) {
+  constexpr int kFetched = 64 * SmallBodyBlock::kSize;
+  std::atomic<int> next = 0;
+  const auto work = [&] {
+    SmallBodyBlock block;
+    for (int first = next.fetch_add(kFetched); first < table.Count();
+         first = next.fetch_add(kFetched)) {
+      const int end = std::min(first + kFetched, table.Count());
+      for (int at = first; at < end; at += SmallBodyBlock::kSize) {
+        ReckonBlock(table, at, jdTt, observer, &block);
+        take(at, std::min(SmallBodyBlock::kSize, end - at), block);
+      }
+    }
+  };
+  const int cores = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+  std::vector<std::jthread> threads;
+  for (int i = 1; i < std::min(cores, table.Count() / kFetched + 1); ++i) {
+    threads.emplace_back(work);
+  }
+  work();
 }
 
 double YearOf(double jd) { return 2000.0 + (jd - 2451545.0) / 365.25; }
@@ -59,74 +65,32 @@ BodyPlace SkySnapshot::PlaceOf(Body body) const {
   return place;
 }
 
-double SmallBodyMagnitude(const ElementTable& table, int object, double jdTt,
-                          const StateVector& observer) {
-  const SmallBody body = table.PageCount(object) > 1 ? table.BodyAt(object, jdTt)
-                                                     : BodyInColumns(table.Columns(), object);
-  if (std::isnan(body.absoluteMagnitude)) return body.absoluteMagnitude;
-  const bool comet = table.IsComet(object);
-  const Vector3 place = PositionAt(body.orbit, jdTt);
-  const auto magnitude = comet ? CometMagnitude : MinorPlanetMagnitude;
-  return magnitude(body.absoluteMagnitude, CoefficientOf(body, comet),
-                   IlluminationOf(place, place - observer.position));
-}
-
-SmallBodyPlaces::Fixed SmallBodyPlaces::FixedOf(const SmallBody& body, bool comet) {
-  return {body.orbit, PlaneOf(body.orbit), static_cast<float>(body.absoluteMagnitude),
-          static_cast<float>(CoefficientOf(body, comet)), comet};
+std::vector<float> SmallBodyMagnitudes(const ElementTable& table, double jdTt,
+                                       const StateVector& observer) {
+  std::vector<float> magnitudes(table.Count());
+  ForEachBlock(table, jdTt, observer, [&](int first, int count, const SmallBodyBlock& block) {
+    std::copy_n(block.magnitude.begin(), count, magnitudes.begin() + first);
+  });
+  return magnitudes;
 }
 
 void SmallBodyPlaces::SetTable(const ElementTable& table) {
   table_ = &table;
-  const int count = table.Count();
-  fixed_.clear();
-  fixed_.reserve(count);
-  for (int i = 0; i < count; ++i) {
-    fixed_.push_back(FixedOf(BodyInColumns(table.Columns(), i), table.IsComet(i)));
-  }
-  heliocentric_.resize(count);
-  fromSite_.resize(count);
-  magnitude_.resize(count);
+  heliocentric_.resize(table.Count());
+  fromSite_.resize(table.Count());
+  magnitude_.resize(table.Count());
 }
 
 void SmallBodyPlaces::Update(double jdTt, const StateVector& observer) {
-  constexpr int kWorthAThread = 20000;
-  const int cores = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
-  const int parts = std::clamp(Count() / kWorthAThread, 1, cores);
-  std::vector<std::jthread> threads;
-  for (int part = 1; part < parts; ++part) {
-    threads.emplace_back([this, jdTt, &observer, part, parts] {
-      UpdateRange(jdTt, observer, static_cast<int>(std::int64_t{Count()} * part / parts),
-                  static_cast<int>(std::int64_t{Count()} * (part + 1) / parts));
-    });
-  }
-  UpdateRange(jdTt, observer, 0, Count() / parts);
-  threads.clear();
   if (table_ == nullptr) return;
-  for (const std::uint32_t object : table_->ObjectsWithPages()) {
-    const int index = static_cast<int>(object);
-    UpdateOne(jdTt, observer, FixedOf(table_->BodyAt(index, jdTt), table_->IsComet(index)), index);
-  }
-}
-
-void SmallBodyPlaces::UpdateRange(double jdTt, const StateVector& observer, int from, int to) {
-  for (int object = from; object < to; ++object) UpdateOne(jdTt, observer, fixed_[object], object);
-}
-
-void SmallBodyPlaces::UpdateOne(double jdTt, const StateVector& observer, const Fixed& fixed,
-                                int object) {
-  const StateVector state = StateAt(fixed.orbit, fixed.plane, jdTt);
-  heliocentric_[object] = state.position;
-  fromSite_[object] =
-      ApparentPlace(state.position - observer.position, state.velocity - observer.velocity);
-  if (std::isnan(fixed.absoluteMagnitude)) {
-    magnitude_[object] = fixed.absoluteMagnitude;
-    return;
-  }
-  const auto magnitude = fixed.comet ? CometMagnitude : MinorPlanetMagnitude;
-  magnitude_[object] =
-      static_cast<float>(magnitude(fixed.absoluteMagnitude, fixed.coefficient,
-                                   IlluminationOf(heliocentric_[object], fromSite_[object])));
+  ForEachBlock(*table_, jdTt, observer, [this](int first, int count, const SmallBodyBlock& block) {
+    for (int i = 0; i < count; ++i) {
+      heliocentric_[first + i] = {static_cast<float>(block.x[i]), static_cast<float>(block.y[i]),
+                                  static_cast<float>(block.z[i])};
+      fromSite_[first + i] = {block.seenX[i], block.seenY[i], block.seenZ[i]};
+    }
+    std::copy_n(block.magnitude.begin(), count, magnitude_.begin() + first);
+  });
 }
 
 }  // namespace vyn

@@ -77,13 +77,18 @@ TEST_F(DisplayLimitsTest, TheMagnitudeLimitFollowsTheMomentShown) {
   EXPECT_EQ(Ask(halley), u"TRUE"_s);
   const auto shown = engine_.ShownObjects(ElementKind::Comet);
   EXPECT_EQ(CountShown(), static_cast<int>(shown.size()));
-  const StateVector earth = HeliocentricState(Body::Earth, TtFromUt(engine_.JulianDate()));
+  const double jdTt = TtFromUt(engine_.JulianDate());
+  const StateVector earth = HeliocentricState(Body::Earth, jdTt);
   std::vector<int> bright;
   const ElementTable& table = engine_.Elements(ElementKind::Comet);
   for (int i = 0; i < table.Count(); ++i) {
-    if (SmallBodyMagnitude(table, i, TtFromUt(engine_.JulianDate()), earth) <= 6.0) {
-      bright.push_back(i);
-    }
+    const SmallBody body = table.BodyAt(i, jdTt);
+    const Vector3 place = PositionAt(body.orbit, jdTt);
+    const double coefficient = body.magnitudeCoefficient;
+    const double magnitude =
+        CometMagnitude(body.absoluteMagnitude, std::isnan(coefficient) ? 4.0 : coefficient,
+                       IlluminationOf(place, place - earth.position));
+    if (magnitude <= 6.0) bright.push_back(i);
   }
   EXPECT_EQ(shown, bright);
 }

@@ -91,9 +91,10 @@ TEST_F(ElementTableTest, RealCometsLoadWithoutAProblem) {
   EXPECT_EQ(body.orbit.perihelionDistanceAu, 0.922046);
   EXPECT_EQ(body.absoluteMagnitude, -2.0);
   EXPECT_EQ(body.magnitudeCoefficient, 4.0);
-  EXPECT_EQ(table_.Columns().epochJd[haleBopp], CalcJd(2026, 5, 31));
+  EXPECT_EQ(table_.Body(haleBopp).epochJd, CalcJd(2026, 5, 31));
   int withoutEpoch = 0;
-  for (const double epoch : table_.Columns().epochJd) withoutEpoch += std::isnan(epoch) ? 1 : 0;
+  for (int i = 0; i < table_.Count(); ++i)
+    withoutEpoch += std::isnan(table_.Body(i).epochJd) ? 1 : 0;
   EXPECT_EQ(withoutEpoch, 54);
 }
 

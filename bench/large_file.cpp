@@ -40,7 +40,7 @@ bool WriteFile(const QString& path, int objects) {
 
 QString BenchSourceFile() {
   const QString chosen = qEnvironmentVariable("VYN_BENCH_ELEMENTS");
-  return chosen.isEmpty() ? QStringLiteral(VYN_DATA_DIR "/comets.eld") : chosen;
+  return chosen.isEmpty() ? QStringLiteral(VYN_DATA_DIR "/minor_planets.eld") : chosen;
 }
 
 QString LargeElementFile(int objects) {

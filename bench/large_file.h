@@ -9,7 +9,7 @@ namespace vyn {
 inline constexpr int kManyObjects = 1'400'000;
 
 /// The file whose records are repeated: the one that the environment variable
-/// VYN_BENCH_ELEMENTS names, else the demo's comets.
+/// VYN_BENCH_ELEMENTS names, else the demo's minor planets.
 QString BenchSourceFile();
 
 /// A file of as many records; the identifier of the last is "THE LAST ONE". It lies in a temporary

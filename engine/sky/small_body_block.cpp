@@ -9,6 +9,15 @@
 #include "engine/sky/bodies.h"
 #include "engine/sky/magnitudes.h"
 
+// The loops exist once for each width of vectors; the processor's own is chosen at start.
+// Sanitizers cannot watch that choice.
+#if defined(__x86_64__) && defined(__linux__) && defined(__GNUC__) && !defined(__clang__) && \
+    !defined(__SANITIZE_ADDRESS__)
+#define VYN_FOR_EACH_VECTOR_WIDTH __attribute__((target_clones("avx512f", "avx2", "default")))
+#else
+#define VYN_FOR_EACH_VECTOR_WIDTH
+#endif
+
 namespace vyn {
 namespace {
 
@@ -101,6 +110,7 @@ inline SineCosine SineCosineOfAnomaly(double anomaly) {
   return SineCosineOf(anomaly - Nearest(anomaly / kTurn) * kTurn);
 }
 
+VYN_FOR_EACH_VECTOR_WIDTH
 void SolveEllipses(const Elements& elements, double jdTt, Planar* planar) {
   constexpr int kSteps = 3;
   for (int i = 0; i < kSize; ++i) {
@@ -129,6 +139,7 @@ void SolveEllipses(const Elements& elements, double jdTt, Planar* planar) {
 }
 
 /// As PlaneOf turns an orbit, and ApparentPlace sees a body.
+VYN_FOR_EACH_VECTOR_WIDTH
 void PutInSpace(const Elements& elements, const Planar& planar, const StateVector& observer,
                 SmallBodyBlock* block) {
   const auto [site, siteVelocity] = observer;
@@ -183,6 +194,7 @@ inline float Exp2(float x) {
 }
 
 /// MinorPlanetMagnitude in single precision; the phase angle by the square of half its tangent.
+VYN_FOR_EACH_VECTOR_WIDTH
 void ReckonMagnitudes(const Elements& elements, SmallBodyBlock* block) {
   constexpr float kLog10Of2 = 0.301029996F;
   constexpr float kLog2OfE = 1.44269504F;

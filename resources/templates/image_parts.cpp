@@ -21,8 +21,8 @@ TemplateItem DateRows() {
   return form(
     row(NumberWithUnit(11121, 11122, 11167, u"年", 5),
         NumberWithUnit(11123, 11124, 11168, u"月"),
-        NumberWithUnit(11125, 11126, 11169, u"日")),
-    row(NumberWithUnit(11127, 11128, 11170, u"時"),
+        NumberWithUnit(11125, 11126, 11169, u"日", 4)),
+    row(NumberWithUnit(11127, 11128, 11170, u"時", 5),
         NumberWithUnit(11129, 11130, 11171, u"分"),
         NumberWithUnit(11140, 11141, 11172, u"秒", 4)));
   // clang-format on

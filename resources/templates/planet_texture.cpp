@@ -19,7 +19,7 @@ DialogTemplate PlanetTexture() {
       column(
         row(check(11103, u"テクスチャ表示"), stretch(),
             label(11099, u"番号："), control(ControlKind::Combo, 11102),
-            NumberLine(11104, u"不透明度：", 11105, 11106, 4)),
+            label(11104, u"不透明度："), tight(row(edit(11105, 4), spin(11106)))),
         group(11110, u"画像(&G)：",
           row(label(11109, u"ファイル名："), readOnly(edit(11111, 40)),
               button(11112, u"参照(&R)..."))),

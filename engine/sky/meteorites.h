@@ -29,7 +29,7 @@ struct Meteorite {
   OrbitElements Orbit() const;
 };
 
-/// By the time of fall. Each row names its source.
+/// By the time of fall.
 std::span<const Meteorite> RecordedMeteorites();
 
 }  // namespace vyn

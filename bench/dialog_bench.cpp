@@ -12,10 +12,14 @@
 #include "major_bodies/planet_dialog.h"
 #include "major_bodies/satellite_dialog.h"
 #include "major_bodies/sun_dialog.h"
+#include "small_bodies/dust_trail_dialog.h"
+#include "small_bodies/meteorite_dialog.h"
 #include "siblings/registry/registry.h"
 
 namespace vyn {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 /// Lets the benchmark reach the typed getters.
 class QueryingDialog final : public CVynDialog {
@@ -75,6 +79,18 @@ void Opening(benchmark::State& state) {
 BENCHMARK(Opening<CDlgSun>)->Unit(benchmark::kMillisecond);
 BENCHMARK(Opening<CDlgPlanet>)->Unit(benchmark::kMillisecond);
 BENCHMARK(Opening<CDlgDwarfPlanet>)->Unit(benchmark::kMillisecond);
+
+/// With its Cancel script, which names each of them.
+template <class Dialog>
+void OpeningWith10000Rows(benchmark::State& state) {
+  ReferenceEngine engine;
+  engine.LoadStartingState();
+  engine.SetProperty(u"Solar.Meteorite.Count"_s, u"10000"_s);
+  engine.SetProperty(u"Solar.DustTrail.Count"_s, u"10000"_s);
+  Open<Dialog>(state, engine);
+}
+BENCHMARK(OpeningWith10000Rows<CDlgMeteorite>)->Unit(benchmark::kMillisecond);
+BENCHMARK(OpeningWith10000Rows<CDlgDustTrail>)->Unit(benchmark::kMillisecond);
 
 void AddSatellites(ReferenceEngine& engine, int count) {
   engine.SetProperty(QStringLiteral("solar.planet.satellite.count"), QString::number(count));

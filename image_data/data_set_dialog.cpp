@@ -1,12 +1,12 @@
 #include "image_data/data_set_dialog.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QListWidget>
 #include <QSignalBlocker>
 
 #include "core_link/reply.h"
 #include "core_link/statement.h"
+#include "core_link/wait_cursor.h"
 #include "siblings/controls/preview.h"
 
 namespace vyn {
@@ -15,13 +15,6 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int kPreview = 11100;
-
-class WaitCursor {
- public:
-  WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-  ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-  Q_DISABLE_COPY_MOVE(WaitCursor)
-};
 
 }  // namespace
 

@@ -44,10 +44,11 @@ CDlgSunSpot::CDlgSunSpot(QWidget* parent) : CDlgSunSpot(nullptr, nullptr, parent
 bool CDlgSunSpot::OnInitDialog() {
   draggedSpot_ = kNoSpot;
   CDataSetDialog::OnInitDialog();
+  UpdateDataSetLst();
   AskTime();
   record_.diskMultiplier = AskInt(u"Solar.Sun.Disk.Multiplier"_s);
   Push();
-  UpdateDataSetLst();
+  ReadSet();
   MakeStatus();
   return true;
 }
@@ -62,6 +63,8 @@ void CDlgSunSpot::AttachControls() {
   OnClicked({kLayerCheck, kSetCheck}, &CDlgSunSpot::OnBnClickedChkVisible);
   OnClicked({11142}, &CDlgSunSpot::OnBnClickedBtnSendDate);
   OnClicked({11161}, &CDlgSunSpot::ChangeViewCenter);
+  // A spot that is dragged changes its row at every move; that must not measure all others.
+  List(kSpotList)->setUniformItemSizes(true);
   AttachMouse();
 }
 
@@ -144,9 +147,17 @@ void CDlgSunSpot::OnSelectSpot() {
   Repaint();
 }
 
+QString CDlgSunSpot::SpotTitle(int number) const {
+  const Sunspot& spot = picture_.Spots()[number - 1];
+  return u"#%1:(%2, %3)"_s.arg(QString::number(number), SixDecimals(spot.longitudeDeg),
+                               SixDecimals(spot.latitudeDeg));
+}
+
 /// The spots of the selected set; the selected row stays as far as it is there. The disk is drawn
-/// for whole degrees of its orientation, which is how it is asked here.
+/// for whole degrees of its orientation, which is how it is asked here. A drag ends, for the spot
+/// held may be gone.
 void CDlgSunSpot::UpdateSpotsLst() {
+  draggedSpot_ = kNoSpot;
   std::vector<Sunspot>& spots = picture_.Spots();
   spots.clear();
   if (SetNumber() > 0) {
@@ -170,17 +181,14 @@ void CDlgSunSpot::UpdateSpotsLst() {
 void CDlgSunSpot::UpdateSpotsLstTitle() {
   const int selectedRow = SelectedRow(kSpotList);
   QStringList titles;
-  for (const Sunspot& spot : picture_.Spots()) {
-    titles.append(u"#%1:(%2, %3)"_s.arg(QString::number(titles.size() + 1),
-                                        SixDecimals(spot.longitudeDeg),
-                                        SixDecimals(spot.latitudeDeg)));
-  }
+  const int count = static_cast<int>(picture_.Spots().size());
+  for (int number = 1; number <= count; ++number) titles.append(SpotTitle(number));
   {
     const QSignalBlocker blocker(List(kSpotList));
     List(kSpotList)->clear();
     List(kSpotList)->addItems(titles);
   }
-  SelectRow(kSpotList, selectedRow < titles.size() ? selectedRow : -1);
+  SelectRow(kSpotList, selectedRow < count ? selectedRow : -1);
 }
 
 void CDlgSunSpot::OnBnClickedPtxBtnAdd() {
@@ -323,7 +331,7 @@ void CDlgSunSpot::OnMouseMove(QPoint point) {
 
 /// The numbers shown are those of the selected spot, which may be the one dragged.
 void CDlgSunSpot::ShowDraggedSpot() {
-  UpdateSpotsLstTitle();
+  List(kSpotList)->item(draggedSpot_)->setText(SpotTitle(draggedSpot_ + 1));
   if (SpotNumber() != draggedSpot_ + 1) return;
   Pull();
   record_.spotLongitudeDeg = picture_.Spots()[draggedSpot_].longitudeDeg;

@@ -32,6 +32,7 @@ class VYN_EXPORT CDlgSunSpot final : public CDataSetDialog {
   void UpdateSpotsLst();
   void UpdateSpotsLstTitle();
   QString GetTitle(int number);
+  QString SpotTitle(int number) const;
   void OnSelectDataSet();
   void OnSelectSpot();
   void OnBnClickedPtxBtnAdd();

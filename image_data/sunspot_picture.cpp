@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmap>
 #include <QRadialGradient>
 
 namespace vyn {
@@ -13,6 +14,8 @@ namespace {
 constexpr int kHitDistance = 4;
 constexpr int kGridStepDeg = 30;
 constexpr std::array<int, 4> kSpotRadii{2, 3, 4, 5};
+/// Room for the largest spot and its rim.
+constexpr int kSpotMargin = 8;
 
 /// Darker towards the limb, as the Sun is.
 void DrawDisk(QPainter& painter, const SunDisk& disk) {
@@ -54,12 +57,38 @@ void DrawGrid(QPainter& painter, const SunDisk& disk) {
   }
 }
 
-void DrawSpot(QPainter& painter, const Sunspot& spot, bool isSelected) {
-  const int radius = kSpotRadii[std::clamp(spot.type, 1, 4) - 1];
+/// A spot of this type in the middle of a picture of its own: a set may have a thousand.
+QPixmap SpotPixmap(int type, bool isSelected, qreal pixelRatio) {
+  QPixmap pixmap(QSize(2 * kSpotMargin, 2 * kSpotMargin) * pixelRatio);
+  pixmap.setDevicePixelRatio(pixelRatio);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(isSelected ? QColor(Qt::red) : QColor(110, 60, 20), 1.5));
   painter.setBrush(QColor(40, 20, 10));
-  painter.drawEllipse(spot.screenPoint, radius, radius);
+  const int radius = kSpotRadii[type - 1];
+  painter.drawEllipse(QPoint(kSpotMargin, kSpotMargin), radius, radius);
+  return pixmap;
 }
+
+/// Draws spots; each kind of them is drawn once and copied from then on.
+class SpotPainter {
+ public:
+  explicit SpotPainter(QPainter& painter) : painter_(painter) {}
+
+  void Draw(const Sunspot& spot, bool isSelected) {
+    const int type = std::clamp(spot.type, 1, 4);
+    QPixmap& pixmap = pixmaps_[type - 1 + (isSelected ? 4 : 0)];
+    if (pixmap.isNull()) {
+      pixmap = SpotPixmap(type, isSelected, painter_.device()->devicePixelRatioF());
+    }
+    painter_.drawPixmap(spot.screenPoint - QPoint(kSpotMargin, kSpotMargin), pixmap);
+  }
+
+ private:
+  QPainter& painter_;
+  std::array<QPixmap, 8> pixmaps_;
+};
 
 }  // namespace
 
@@ -77,13 +106,14 @@ void SunspotPicture::Paint(QPainter& painter, int selectedSpot) {
   painter.setRenderHint(QPainter::Antialiasing);
   DrawDisk(painter, disk_);
   DrawGrid(painter, disk_);
+  SpotPainter spotPainter(painter);
   for (std::size_t i = 0; i < spots_.size(); ++i) {
     Sunspot& spot = spots_[i];
     if (spot.screenPoint == kNoPoint) {
       spot.screenPoint = disk_.GetSunPoint(spot.longitudeDeg, spot.latitudeDeg).value_or(kNoPoint);
     }
     if (spot.screenPoint == kNoPoint) continue;
-    DrawSpot(painter, spot, static_cast<int>(i) == selectedSpot);
+    spotPainter.Draw(spot, static_cast<int>(i) == selectedSpot);
   }
 }
 

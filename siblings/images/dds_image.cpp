@@ -1,5 +1,6 @@
 // DDS: the first surface of a texture, uncompressed or in compressed blocks.
 // Format: "DDS file layout", "Programming guide for DDS".
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <optional>
@@ -34,6 +35,7 @@ struct BlockFormat {
   int squishFlags;
   int bytesPerBlock;
   bool isPremultiplied = false;
+  bool isGrey = false;
 };
 
 // clang-format off
@@ -43,8 +45,8 @@ constexpr std::array kByFourCc{
   BlockFormat{FourCc("DXT3"), squish::kDxt3, 16},
   BlockFormat{FourCc("DXT4"), squish::kDxt5, 16, true},
   BlockFormat{FourCc("DXT5"), squish::kDxt5, 16},
-  BlockFormat{FourCc("ATI1"), squish::kBc4,  8},
-  BlockFormat{FourCc("BC4U"), squish::kBc4,  8},
+  BlockFormat{FourCc("ATI1"), squish::kDxt5, 8, false, true},
+  BlockFormat{FourCc("BC4U"), squish::kDxt5, 8, false, true},
 };
 
 /// By the number of an extended header.
@@ -52,7 +54,7 @@ constexpr std::array kByDxgi{
   BlockFormat{71, squish::kDxt1, 8},  BlockFormat{72, squish::kDxt1, 8},
   BlockFormat{74, squish::kDxt3, 16}, BlockFormat{75, squish::kDxt3, 16},
   BlockFormat{77, squish::kDxt5, 16}, BlockFormat{78, squish::kDxt5, 16},
-  BlockFormat{80, squish::kBc4,  8},
+  BlockFormat{80, squish::kDxt5, 8, false, true},
 };
 
 /// How the bits of an uncompressed pixel are shared out. A grey one has all in `red`.
@@ -116,15 +118,34 @@ QImage DecodePixels(const QByteArray& file, qsizetype start, QSize size,
   return image;
 }
 
+/// Grey blocks are the opacity of DXT5 blocks, of which these are all black.
+QByteArray WithColors(const char* greyBlocks, qint64 count) {
+  constexpr int kHalf = 8;
+  QByteArray blocks(count * 2 * kHalf, '\0');
+  for (qint64 i = 0; i < count; ++i) {
+    std::copy_n(greyBlocks + i * kHalf, kHalf, blocks.data() + i * 2 * kHalf);
+  }
+  return blocks;
+}
+
+QImage OpacityAsGrey(const QImage& image) {
+  QImage grey = image.convertToFormat(QImage::Format_Alpha8);
+  grey.reinterpretAsFormat(QImage::Format_Grayscale8);
+  return grey;
+}
+
 QImage DecodeBlocks(const QByteArray& file, qsizetype start, QSize size,
                     const BlockFormat& format) {
   const qint64 blocks = static_cast<qint64>((size.width() + 3) / 4) * ((size.height() + 3) / 4);
   if (start + blocks * format.bytesPerBlock > file.size()) return {};
   QImage image(size, format.isPremultiplied ? QImage::Format_RGBA8888_Premultiplied
                                             : QImage::Format_RGBA8888);
+  const char* data = file.constData() + start;
+  const QByteArray colored = format.isGrey ? WithColors(data, blocks) : QByteArray();
   squish::DecompressImage(image.bits(), size.width(), size.height(),
-                          static_cast<int>(image.bytesPerLine()), file.constData() + start,
-                          format.squishFlags);
+                          static_cast<int>(image.bytesPerLine()),
+                          format.isGrey ? colored.constData() : data, format.squishFlags);
+  if (format.isGrey) return OpacityAsGrey(image);
   return std::move(image).convertToFormat(QImage::Format_ARGB32);
 }
 

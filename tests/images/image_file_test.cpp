@@ -171,12 +171,21 @@ TEST(Tga, EachKindOfPixel) {
   EXPECT_EQ(colors.pixel(2, 0), qRgb(0, 0, 0));  // beyond the map
 }
 
+/// The header of a DDS file of 4 by 4 pixels.
+QByteArray DdsHeader(quint32 flags, const QByteArray& fourCc) {
+  QByteArray header(128, '\0');
+  header.replace(0, 4, "DDS ");
+  Put<quint32>(header, 12, 4);
+  Put<quint32>(header, 16, 4);
+  Put<quint32>(header, 80, flags);
+  header.replace(84, 4, fourCc);
+  return header;
+}
+
 TEST(Dds, UncompressedPixelsFollowTheirMasks) {
-  QByteArray dds(128, '\0');
-  dds.replace(0, 4, "DDS ");
+  QByteArray dds = DdsHeader(0x41, QByteArray(4, '\0'));
   Put<quint32>(dds, 12, 1);
   Put<quint32>(dds, 16, 2);
-  Put<quint32>(dds, 80, 0x41);
   Put<quint32>(dds, 88, 16);
   Put<quint32>(dds, 92, 0x0F00);
   Put<quint32>(dds, 96, 0x00F0);
@@ -185,6 +194,49 @@ TEST(Dds, UncompressedPixelsFollowTheirMasks) {
   const QImage image = Load(dds + QByteArray("\x21\xF3\x0F\x00", 4), u"a.dds"_s);
   EXPECT_EQ(image.pixel(0, 0), qRgba(0x33, 0x22, 0x11, 0xFF));
   EXPECT_TRUE(Load(dds + "\x21\xF3", u"a.dds"_s).isNull());
+}
+
+/// All pixels red; where there is an alpha, half of it.
+TEST(Dds, EachKindOfBlock) {
+  const QByteArray red("\x00\xF8\x00\xF8\0\0\0\0", 8);
+  const QByteArray halfByFourBits(8, '\x88');
+  const QByteArray halfByEnds("\x88\x88\0\0\0\0\0\0", 8);
+  const auto extended = [](char number) -> QByteArray {
+    return DdsHeader(4, "DX10") + QByteArray(1, number) + QByteArray(19, '\0');
+  };
+  const std::pair<QByteArray, int> cases[] = {
+      {DdsHeader(4, "DXT1") + red, 255},
+      {DdsHeader(4, "DXT3") + halfByFourBits + red, 0x88},
+      {DdsHeader(4, "DXT5") + halfByEnds + red, 0x88},
+      {extended(71) + red, 255},
+      {extended(74) + halfByFourBits + red, 0x88},
+      {extended(77) + halfByEnds + red, 0x88},
+  };
+  for (const auto& [bytes, alpha] : cases) {
+    EXPECT_EQ(Load(bytes, u"a.dds"_s).pixel(3, 3), qRgba(255, 0, 0, alpha)) << bytes.constData();
+    EXPECT_TRUE(Load(bytes.chopped(1), u"a.dds"_s).isNull());
+  }
+  const QByteArray grey = DdsHeader(4, "ATI1") + halfByEnds;
+  EXPECT_EQ(qRed(Load(grey, u"a.dds"_s).pixel(3, 3)), 0x88);
+  EXPECT_TRUE(Load(DdsHeader(4, "BC7?") + halfByFourBits + red, u"a.dds"_s).isNull());
+}
+
+/// The first corner of the stored picture is dark.
+TEST(ImageFile, EveryOrientationOfAPhotographIsCarriedOut) {
+  QImage stored(16, 8, QImage::Format_RGB32);
+  stored.fill(Qt::white);
+  for (int i = 0; i < 16; ++i) stored.setPixel(i % 4, i / 4, qRgb(0, 0, 0));
+  const QByteArray jpeg = Encoded(stored, "JPEG");
+  const QPoint dark[] = {{1, 1}, {14, 1}, {14, 6}, {1, 6}, {1, 1}, {6, 1}, {6, 14}, {1, 14}};
+  for (int orientation = 1; orientation <= 8; ++orientation) {
+    QByteArray exif("Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0?\0\0\0\0\0\0\0", 32);
+    exif[24] = static_cast<char>(orientation);
+    const QByteArray segment = QByteArray("\xFF\xE1\0", 3) + char(2 + exif.size()) + exif;
+    const QImage image = Load(jpeg.first(2) + segment + jpeg.sliced(2), u"a.jpe"_s);
+    EXPECT_EQ(image.size(), orientation < 5 ? QSize(16, 8) : QSize(8, 16)) << orientation;
+    EXPECT_LT(qGray(image.pixel(dark[orientation - 1])), 60) << orientation;
+    EXPECT_GT(qGray(image.pixel(image.width() / 2, image.height() / 2)), 200) << orientation;
+  }
 }
 
 /// A FITS file of one part for each call.

@@ -1,5 +1,7 @@
 #include "siblings/controls/controls.h"
 
+#include <algorithm>
+
 #include <QButtonGroup>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -90,6 +92,15 @@ void CVynEdit::keyPressEvent(QKeyEvent* event) {
 void CVynEdit::inputMethodEvent(QInputMethodEvent* event) {
   const QScopedValueRollback typing(isBeingTyped_, true);
   QLineEdit::inputMethodEvent(event);
+}
+
+void CVynListBox::keyPressEvent(QKeyEvent* event) {
+  const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+  if (isArrow && count() > 0 && selectedItems().isEmpty()) {
+    setCurrentRow(std::max(currentRow(), 0));
+  } else {
+    QListWidget::keyPressEvent(event);
+  }
 }
 
 void CVynRadioButton::keyPressEvent(QKeyEvent* event) {

@@ -105,11 +105,15 @@ class VYN_EXPORT CVynEdit : public QLineEdit {
   bool isBeingTyped_ = false;
 };
 
+/// Without a selection the arrow keys select the row that has the focus, else the first.
 class VYN_EXPORT CVynListBox : public QListWidget {
   Q_OBJECT
 
  public:
   using QListWidget::QListWidget;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
 };
 
 /// Two arrows without a value of their own. Each press, and each repetition while the mouse stays

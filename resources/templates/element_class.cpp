@@ -7,7 +7,7 @@ using namespace layout;
 namespace {
 
 constexpr int kListChars = 190, kListRows = 16;
-constexpr int kTypeListChars = 26, kTypeListRows = 6;
+constexpr int kTypeListChars = 26, kTypeListRows = 7;
 constexpr int kCountChars = 9;
 constexpr int kSliderChars = 24;
 constexpr int kMagnitudeChars = 5, kVectorChars = 5;

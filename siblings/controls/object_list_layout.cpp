@@ -1,6 +1,7 @@
 #include "siblings/controls/object_list_layout.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 namespace vyn {
@@ -8,9 +9,14 @@ namespace {
 
 constexpr int kRowGap = 4;
 
+/// Whole pixels in which the text fits; half a pixel less, and its end is left out.
+int Advance(const QFontMetrics& font, const QString& text) {
+  return static_cast<int>(std::ceil(QFontMetricsF(font).horizontalAdvance(text)));
+}
+
 int Widest(const QFontMetrics& font, const QStringList& texts) {
   int widest = 0;
-  for (const QString& text : texts) widest = std::max(widest, font.horizontalAdvance(text));
+  for (const QString& text : texts) widest = std::max(widest, Advance(font, text));
   return widest;
 }
 
@@ -51,7 +57,7 @@ int ObjectListLayout::WidthOf(const tagHeaderDataItem& column,
   if (measures.hasHeader) {
     width = Widest(measures.titles, BrokenTitle(column.text, column.titleLines));
     if (column.kind == ObjectColumnKind::Text) {
-      width = std::max(width, measures.cells.horizontalAdvance(column.text));
+      width = std::max(width, Advance(measures.cells, column.text));
     }
   }
   if (column.kind == ObjectColumnKind::Choice) {

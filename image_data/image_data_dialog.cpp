@@ -71,6 +71,8 @@ void CImageDataDialog::EnableImageGroups(int last) {
           11171, 11129, 11130, 11172},
          HasImage());
   for (int id = 11140; id <= last; ++id) Enable(id, HasImage());
+  constexpr int kRollUnit = 11173;
+  Enable(kRollUnit, HasImage());
 }
 
 void CImageDataDialog::OnBnClickedBtnSendDate() {

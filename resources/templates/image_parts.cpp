@@ -35,7 +35,7 @@ TemplateItem PlacementGroup(TemplateItem more) {
       row(label(11144, u"X："), NumberWithUnit(11145, 11146, kNoControlId, u"", 6),
           label(11147, u"Y："), NumberWithUnit(11148, 11149, kNoControlId, u"", 6)),
       row(label(11150, u"半径："), NumberWithUnit(11151, 11152, kNoControlId, u"", 6),
-          label(11153, u"回転："), NumberWithUnit(11154, 11155, kNoControlId, u"度", 6))),
+          label(11153, u"回転："), NumberWithUnit(11154, 11155, 11173, u"度", 6))),
     std::move(more));
   // clang-format on
 }

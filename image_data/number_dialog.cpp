@@ -20,7 +20,10 @@ CNumberDialog::CNumberDialog(CCorVyn* commandHandle, CCorVyn* secondHandle, int 
     : CVynDialog(commandHandle, secondHandle, templateNumber, registryKey, parent),
       fields_(Joined(fields)) {}
 
-CNumberDialog::~CNumberDialog() = default;
+/// An edit with the keyboard focus tells that its typing has ended even as it is deleted.
+CNumberDialog::~CNumberDialog() {
+  for (QLineEdit* edit : findChildren<QLineEdit*>()) edit->disconnect(this);
+}
 
 bool CNumberDialog::OnInitDialog() {
   CVynDialog::OnInitDialog();

@@ -172,10 +172,11 @@ void PutInSpace(const Elements& elements, const Planar& planar, const StateVecto
 // Logarithm and power of two in single precision, within 1e-6, for numbers in the usual range.
 
 inline float Log2(float x) {
-  constexpr std::int32_t kRootOfHalf = 0x3F3504F3;
-  const auto bits = std::bit_cast<std::int32_t>(x);
-  const std::int32_t exponent = (bits - kRootOfHalf) >> 23;
-  const auto mantissa = std::bit_cast<float>(bits - exponent * (1 << 23));
+  // Unsigned, since what is no magnitude may wrap round.
+  constexpr std::uint32_t kRootOfHalf = 0x3F3504F3;
+  const auto bits = std::bit_cast<std::uint32_t>(x);
+  const std::int32_t exponent = static_cast<std::int32_t>(bits - kRootOfHalf) >> 23;
+  const auto mantissa = std::bit_cast<float>(bits - (static_cast<std::uint32_t>(exponent) << 23));
   const float t = (mantissa - 1.0F) / (mantissa + 1.0F);
   const float t2 = t * t;
   constexpr float kScale = 2.88539008F;  // 2 / ln 2

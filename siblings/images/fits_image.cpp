@@ -96,11 +96,18 @@ std::optional<FitsShape> FindImage(FitsFile& file) {
   return std::nullopt;
 }
 
+/// The library reads on behind the end of compressed data that are cut short.
+bool IsWhole(FitsFile& file, qint64 fileSize) {
+  LONGLONG end = 0;
+  fits_get_hduaddrll(file.Handle(), nullptr, nullptr, &end, &file.status);
+  return file.IsGood() && end <= fileSize;
+}
+
 bool IsAllowed(FitsFile& file, const FitsShape& shape, qint64 fileSize) {
   if (!IsImageSizeAllowed(shape.size, shape.planes * static_cast<int>(sizeof(float)))) return false;
   if (!AreTilesSane(file.Handle(), shape.size)) return false;
   int status = 0;
-  if (fits_is_compressed_image(file.Handle(), &status)) return true;
+  if (fits_is_compressed_image(file.Handle(), &status)) return IsWhole(file, fileSize);
   return PixelCount(shape.size) * shape.planes * shape.bytesPerValue <= fileSize;
 }
 

@@ -93,6 +93,15 @@ constexpr Stop kStops[] = {
   {u"pluto",         u"View.Projection = SolarSystem; View.Center = Solar.DwarfPlanet.Pluto; View.Outside.Distance = 0.0012;"
                      u" Solar.DwarfPlanet.Pluto.Satellite.JapaneseName.Visible = TRUE; Solar.DwarfPlanet.Pluto.Satellite.Orbit.Visible = TRUE;"
                      u" Solar.DwarfPlanet.Pluto.Disk.Grid.Visible = TRUE; Show Sky"},
+  {u"comet_tails",   u"time = jst(2061, 8, 12, 0, 0, 0); View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 1.7;"
+                     u" View.Outside.Longitude = 40; View.Outside.Latitude = 40; Solar.MinorPlanet.Visible = FALSE; Solar.Comet.No489.JapaneseName.Visible = TRUE;"
+                     u" Solar.Comet.No489.DustTail.Visible = TRUE; Solar.Comet.No489.IonTail.Visible = TRUE; Solar.Comet.No489.Orbit = TRUE;"
+                     u" Solar.Comet.No489.DustTail.EmissionSpan = 120; Solar.Comet.No489.IonTail.EmissionSpan = 16; Show Sky"},
+  {u"minor_planets", u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 11; View.Outside.Latitude = 60;"
+                     u" Solar.Comet.Visible = FALSE; Solar.MinorPlanet.Symbolic = TRUE; Show Sky"},
+  {u"sunspots",      u"View.Coordinate = Ecliptic; View.Center = Solar.Sun; View.Center.Track = TRUE; View.Angle = 0.8; Solar.Sun.Disk.Grid.Visible = TRUE;"
+                     u" Solar.Sun.Halo.Visible = FALSE; Solar.Sun.Sunspot.Visible = TRUE; Solar.Sun.Sunspot.Add(); Solar.Sun.Sunspot.#1.Add(-85, 14, 2);"
+                     u" Solar.Sun.Sunspot.#1.Add(-77, 15, 3); Solar.Sun.Sunspot.#1.Add(-50, -12, 4); Show Sky"},
   {u"from_the_moon", u"location = location(20, 30, 0); View.Center = Solar.Planet.Earth; View.Center.Track = TRUE; View.Angle = 60; Show Sky", 1},
 };
 
@@ -101,6 +110,8 @@ constexpr DialogStop kDialogStops[] = {
   {13002, u"time = jst(2026, 2, 20, 18, 0, 0); View.Coordinate = Ecliptic; View.Longitude = 330; View.Latitude = 18; View.Angle = 100; Show Sky", {1107, 1121, 1123}},
   {13005, u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 190; View.Outside.Latitude = 14; Show Sky", {1319, 1376, 1379}},
   {13003, u"View.Coordinate = Ecliptic; View.Longitude = 109.7; View.Latitude = 1.1; View.Angle = 3; Show Sky", {1511, 1515, 1517}},
+  {13000, u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 9; Show Sky", {1708, 0, 0}},
+  {13001, u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 9; Show Sky", {1837, 0, 0}},
   {13019, u"View.Projection = SolarSystem; View.Center = Solar.Sun; View.Outside.Distance = 9; Show Sky", {11103, 11105, 11108}},
   {13015, u"time = jst(2026, 3, 10, 19, 20, 0); View.Azimuth = 265; View.Altitude = 38; View.Angle = 95; Show Sky", {11102, 11103, 0}},
 };

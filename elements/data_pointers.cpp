@@ -45,8 +45,10 @@ std::optional<ElementDataPointers> ReadDataPointers(QStringView reply) {
   const auto objectCount = ReadCount(WithoutLeadingBlanks(items[2]));
   const auto firstRecords = ReadAddress(WithoutLeadingBlanks(items[3]));
   if (!recordCount || !records || !objectCount || !firstRecords) return std::nullopt;
+  // NOLINTBEGIN(performance-no-int-to-ptr): the engine tells its addresses as text.
   return ElementDataPointers{*recordCount, reinterpret_cast<const char*>(*records), *objectCount,
                              reinterpret_cast<const std::uint32_t*>(*firstRecords)};
+  // NOLINTEND(performance-no-int-to-ptr)
 }
 
 }  // namespace vyn

@@ -21,7 +21,7 @@ char LowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 'a
 
 /// Lower-case bytes of a Japanese text; the text as it stands where it is none.
 QByteArray Folded(std::string_view text) {
-  const QByteArray plain(text.data(), text.size());
+  QByteArray plain(text.data(), text.size());
   const DecodedText decoded = DecodeCodePage932(text);
   if (!decoded.valid) return plain;
   const QString folded = decoded.text.toCaseFolded();

@@ -92,7 +92,7 @@ void CDlgCorona::UpdateDataSetLst() {
 }
 
 QString CDlgCorona::RowTitle(int number) {
-  const QString title = Ask(SetPath(number) + u".title");
+  QString title = Ask(SetPath(number) + u".title");
   if (!title.isEmpty()) return title;
   const double jd = AskDouble(SetPath(number) + u".time");
   return PlainDateText(DateInZone(jd, AskDouble(u"time.timezone"_s)));

@@ -24,10 +24,10 @@ QString Real(double value) { return QString::number(value, 'f', 6); }
 
 // clang-format off
 const CDlgCometTail::TailValue CDlgCometTail::kValues[] = {
-  {1955, 1956, 1957, &Tails::dustSpanDays, 50,  1.0, 1.0},
-  {1960, 1961, 1962, &Tails::betaMin,      30, 10.0, 0.1},
-  {1964, 1965, 1966, &Tails::betaMax,      30, 10.0, 0.1},
-  {1970, 1971, 1972, &Tails::ionSpanDays,  30, 10.0, 0.1},
+  {1955, 1956, 1957, &Tails::dustSpanDays,  1.0, 1.0, 50},
+  {1960, 1961, 1962, &Tails::betaMin,      10.0, 0.1, 30},
+  {1964, 1965, 1966, &Tails::betaMax,      10.0, 0.1, 30},
+  {1970, 1971, 1972, &Tails::ionSpanDays,  10.0, 0.1, 30},
 };
 // clang-format on
 

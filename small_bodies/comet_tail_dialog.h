@@ -34,9 +34,9 @@ class VYN_EXPORT CDlgCometTail final : public CVynDialog {
   struct TailValue {
     int slider, edit, spin;
     double Tails::*member;
-    int sliderEnd;       ///< the slider goes from 0 to this position
     double sliderScale;  ///< positions for one unit of the value
     double step;         ///< of the spin button
+    int sliderEnd;       ///< the slider goes from 0 to this position
   };
   static const TailValue kValues[];
 

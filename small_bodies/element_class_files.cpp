@@ -91,11 +91,11 @@ void CDlgElementClass::OnBnClickedElementDel() {
 QString CDlgElementClass::AskElementFile(int folderName, int title, int filter, bool forImport) {
   CRegistry registry(RegistryKey());
   const QString name = LoadString(folderName);
-  const QString chosen = AskOpenFile(this, {.title = LoadString(title),
-                                            .filter = LoadString(filter),
-                                            .folder = registry.Read(name),
-                                            .defaultExtension = forImport ? QString() : kExtension,
-                                            .mustExist = !forImport});
+  QString chosen = AskOpenFile(this, {.title = LoadString(title),
+                                      .filter = LoadString(filter),
+                                      .folder = registry.Read(name),
+                                      .defaultExtension = forImport ? QString() : kExtension,
+                                      .mustExist = !forImport});
   if (!chosen.isEmpty()) registry.Write(name, CCommonFile::GetPathName(chosen));
   return chosen;
 }
@@ -167,7 +167,7 @@ void CDlgElementClass::OnBnClickedElementElmFile() {
 
 /// False, with the previous file in use again, when the engine refuses the chosen one.
 bool CDlgElementClass::UseElementFile(const QString& chosen, const QString& previous) {
-  const auto assign = [this](QString file) {
+  const auto assign = [this](const QString& file) {
     Doit(Path(u".File = \"") + ShortPathName(file).replace(u"\""_s, u"\"\""_s) + u'"');
   };
   assign(chosen);

@@ -41,7 +41,7 @@ QImage LoadImageFile(const QString& path) {
   for (const ImageKind& kind : kKinds) {
     if (!file.startsWith(kind.mark)) continue;
     // The mark of a header without a name may begin a TGA too.
-    const QImage image = kind.decode(file);
+    QImage image = kind.decode(file);
     if (!image.isNull()) return image;
   }
   return DecodeTga(file);

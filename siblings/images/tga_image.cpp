@@ -60,7 +60,7 @@ std::optional<TgaHeader> ReadHeader(const ByteReader& bytes) {
   header.mapEntries = mapType == 1 ? bytes.Word(5) : 0;
   header.mapEntryBytes = (mapBits + 7) / 8;
   header.mapStart = kHeaderSize + bytes.Byte(0);
-  header.pixelStart = header.mapStart + header.mapEntries * header.mapEntryBytes;
+  header.pixelStart = header.mapStart + qsizetype{header.mapEntries} * header.mapEntryBytes;
   return header;
 }
 

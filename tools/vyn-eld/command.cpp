@@ -19,7 +19,8 @@ bool Accepts(const Option& option, const QString& value) {
 }
 
 /// Takes an option's value from behind its name or from behind an equals sign.
-QString ReadOption(const Command& command, QString argument, QStringList& rest, Words& words) {
+QString ReadOption(const Command& command, const QString& argument, QStringList& rest,
+                   Words& words) {
   const qsizetype equals = argument.indexOf(u'=');
   const QString name = argument.sliced(2, (equals < 0 ? argument.size() : equals) - 2);
   const Option* option = FindOption(command, name);

@@ -178,7 +178,7 @@ class ImportRun {
     if (action == u"overwrite" && reason.isEmpty() && changes.isEmpty())
       line += u": no difference"_s;
     Print(line);
-    for (const QJsonValue& change : changes) {
+    for (const auto& change : changes) {
       Print(u"\t%1: \"%2\" -> \"%3\""_s.arg(change[u"field"].toString(), change[u"old"].toString(),
                                             change[u"new"].toString()));
     }

@@ -47,6 +47,30 @@ void SolarSystemFrame(benchmark::State& state) {
               u"solar.MainBelt.Visible = TRUE; solar.KuiperBelt.Visible = TRUE"_s);
 }
 
+/// What the dialog on a comet's tails sends for each step of a slider, and the frame that follows.
+void TailSlider(benchmark::State& state, const QString& view) {
+  const QString comet = u"Solar.Comet.No488"_s;
+  vyn::ReferenceEngine engine;
+  engine.LoadStartingState();
+  engine.LoadElements(vyn::ElementKind::Comet, QStringLiteral(VYN_DATA_DIR "/comets.eld"));
+  engine.Doit(comet + u".DustTail = TRUE;"_s + comet + u".IonTail = TRUE;"_s + view);
+  QImage image(1280, 800, QImage::Format_ARGB32_Premultiplied);
+  int position = 0;
+  while (state.KeepRunning()) {
+    const int days = position++ % 50;
+    engine.Doit(comet + u".Dusttail.EmissionSpan = %1"_s.arg(double(days), 0, 'f', 6));
+    engine.Doit(u"show sky"_s);
+    QPainter painter(&image);
+    vyn::PaintFrame(painter, vyn::ReadFrame(engine, image.size()));
+  }
+}
+
+void TailSliderInTheSky(benchmark::State& state) { TailSlider(state, {}); }
+
+void TailSliderFromOutside(benchmark::State& state) {
+  TailSlider(state, u"View.Projection = SolarSystem; View.Center = Solar.Sun"_s);
+}
+
 void ReadOneFrame(benchmark::State& state) {
   vyn::ReferenceEngine engine;
   engine.LoadStartingState();
@@ -94,6 +118,8 @@ BENCHMARK(SkyFrame)->Unit(benchmark::kMillisecond);
 BENCHMARK(SkyFrameWithDustLight)->Unit(benchmark::kMillisecond);
 BENCHMARK(SkyFrameWithCometNames)->Unit(benchmark::kMillisecond);
 BENCHMARK(SolarSystemFrame)->Unit(benchmark::kMillisecond);
+BENCHMARK(TailSliderInTheSky)->Unit(benchmark::kMillisecond);
+BENCHMARK(TailSliderFromOutside)->Unit(benchmark::kMillisecond);
 BENCHMARK(ReadOneFrame)->Unit(benchmark::kMillisecond);
 
 }  // namespace

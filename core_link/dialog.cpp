@@ -1,6 +1,7 @@
 #include "core_link/dialog.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
@@ -138,6 +139,15 @@ void CVynDialog::keyPressEvent(QKeyEvent* event) {
     OnHelp();
   } else {
     QDialog::keyPressEvent(event);
+  }
+}
+
+/// The window system knows nothing of a dialog that takes no input while it runs an import.
+void CVynDialog::closeEvent(QCloseEvent* event) {
+  if (isEnabled()) {
+    QDialog::closeEvent(event);
+  } else {
+    event->ignore();
   }
 }
 

@@ -71,6 +71,7 @@ class VYN_EXPORT CVynDialog : public QDialog, public CVynDialogBase {
   virtual void OnDestroy();
 
   void keyPressEvent(QKeyEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
 
   /// Shows the members in the controls (false) or reads the controls into them (true). No handler
   /// of a change runs meanwhile.

@@ -1,6 +1,7 @@
 #include "core_link/vector_step.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace vyn {
 namespace {
@@ -10,9 +11,11 @@ double StepDown(double value) { return value > 1.0 ? 1.0 : value > 0.1 ? 0.1 : 0
 
 }  // namespace
 
+double RoundedStep(double value) { return std::round(value * 1e6) / 1e6 + 0.0; }
+
 double StepVectorValue(double value, int delta) {
   const double stepped = delta < 0 ? value + StepUp(value) : value - StepDown(value);
-  return std::clamp(stepped, kMinVectorValue, kMaxVectorValue);
+  return std::clamp(RoundedStep(stepped), kMinVectorValue, kMaxVectorValue);
 }
 
 }  // namespace vyn

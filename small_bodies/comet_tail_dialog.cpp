@@ -1,12 +1,12 @@
 #include "small_bodies/comet_tail_dialog.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 
 #include <QSlider>
 
 #include "core_link/reply.h"
+#include "core_link/vector_step.h"
 
 namespace vyn {
 namespace {
@@ -86,6 +86,10 @@ void CDlgCometTail::ReadTails() {
   tails_.ionOutline = reply::ToBool(Ask(QStringLiteral(".iontail.outline.visible")));
 }
 
+QString CDlgCometTail::Ask(const QString& suffix) {
+  return HasCorVyn() ? GetString(objectPath_ + suffix) : QString();
+}
+
 double CDlgCometTail::ReadBeta(const QString& suffix, bool& isUnset) {
   const double beta = reply::ToDouble(Ask(suffix));
   isUnset = beta == kUnsetBeta;
@@ -125,8 +129,7 @@ void CDlgCometTail::OnEnChangeEdt() {
 }
 
 void CDlgCometTail::OnDeltaposSpn(const TailValue& value, int delta) {
-  // Steps of a tenth add up to what they look like.
-  const double stepped = std::round((tails_.*value.member - delta * value.step) * 1e6) / 1e6;
+  const double stepped = RoundedStep(tails_.*value.member - delta * value.step);
   tails_.*value.member = std::max(0.0, stepped);
   UpdateData(false);
   SetScrollPos();

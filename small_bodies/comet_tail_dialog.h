@@ -53,7 +53,7 @@ class VYN_EXPORT CDlgCometTail final : public CVynDialog {
 
   void ReadTails();
   double ReadBeta(const QString& suffix, bool& isUnset);
-  QString Ask(const QString& suffix) { return GetString(objectPath_ + suffix); }
+  QString Ask(const QString& suffix);
   void Doit(const Tails& tails);
   void Send(const QString& statement) { CVynDialog::Doit(objectPath_ + statement); }
   void SetScrollPos();

@@ -55,6 +55,7 @@ void CDlgElementClass::OnBnClickedChkLimitBrighter() {
 
 /// The edit's own handler does the rest.
 void CDlgElementClass::OnHScroll(int position) {
+  if (!HasCorVyn()) return;
   static_cast<QLineEdit*>(GetDlgItem(id_.BrighterEdit()))
       ->setText(QString::number(position / 10.0, 'f', 1));
 }
@@ -73,8 +74,9 @@ void CDlgElementClass::OnEnChangeEdtLimitBrighter() {
 void CDlgElementClass::OnDeltaposSpinLimitBrighter(int delta, bool fine) {
   if (!HasCorVyn()) return;
   const double step = fine ? kFineStep : kStep;
-  if (delta < 0) brighterMagnitude_ = std::min(brighterMagnitude_ + step, kFaintest);
-  if (delta > 0) brighterMagnitude_ = std::max(brighterMagnitude_ - step, kBrightest);
+  double& magnitude = brighterMagnitude_;
+  if (delta < 0) magnitude = std::min(RoundedStep(magnitude + step), kFaintest);
+  if (delta > 0) magnitude = std::max(RoundedStep(magnitude - step), kBrightest);
   UpdateData(false);
   SendBrighterMagnitude();
 }

@@ -1,5 +1,9 @@
 // Numbers in edits and the steps of the vectors' spin buttons.
+#include <cmath>
+
 #include <gtest/gtest.h>
+
+#include <QStringList>
 
 #include "core_link/number_text.h"
 #include "core_link/vector_step.h"
@@ -34,6 +38,26 @@ TEST(VectorStep, IsCoarserAboveOneTenthAndOne) {
   for (const auto& [from, delta, to] : cases) {
     EXPECT_NEAR(StepVectorValue(from, delta), to, 1e-12) << from << " by " << delta;
   }
+}
+
+/// What is shown decides the next step, not what binary fractions make of it.
+TEST(VectorStep, WalksTheWholeRangeOnWhatIsShownAndBack) {
+  double value = 2.0;
+  QStringList shown;
+  for (int i = 0; i < 21; ++i) {
+    value = StepVectorValue(value, 1);
+    shown.append(ShortNumberText(value, 4, 2));
+  }
+  EXPECT_EQ(shown.join(u' ').toStdString(),
+            "1 0.9 0.8 0.7 0.6 0.5 0.4 0.3 0.2 0.1 0.09 0.08 0.07 0.06 0.05 0.04 0.03 0.02 0.01 "
+            "0.01 0.01");
+  for (int i = 0; i < 19; ++i) value = StepVectorValue(value, -1);
+  EXPECT_EQ(value, 2.0);
+}
+
+TEST(RoundedStep, HasNoNegativeZero) {
+  EXPECT_FALSE(std::signbit(RoundedStep(0.3 - 0.1 - 0.1 - 0.1)));
+  EXPECT_EQ(RoundedStep(-4.3 - 0.1), -4.4);
 }
 
 }  // namespace

@@ -17,6 +17,8 @@ void CVynDialogBase::DrawCheckMark(QPainter& painter, const QWidget* owner, cons
   option.initFrom(owner);
   option.rect = QStyle::alignedRect(owner->layoutDirection(), Qt::AlignCenter, size, area);
   option.state.setFlag(QStyle::State_Enabled, enabled);
+  // Not every style greys a mark by its state.
+  if (!enabled) option.palette.setCurrentColorGroup(QPalette::Disabled);
   option.state.setFlag(QStyle::State_HasFocus, false);
   option.state |= checked ? QStyle::State_On : QStyle::State_Off;
   style->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter, owner);

@@ -13,7 +13,7 @@ constexpr int kLabelChars = 12;
 /// A labelled value by slider, edit and spin button, with its unit.
 TemplateItem Value(int labelId, const char16_t* text, TemplateItem unit = stretch()) {
   return row(label(labelId, text), control(ControlKind::Slider, labelId + 1),
-             edit(labelId + 2, kValueChars), spin(labelId + 3), std::move(unit));
+             named(edit(labelId + 2, kValueChars), text), spin(labelId + 3), std::move(unit));
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ DialogTemplate Corona() {
         titled(group(11160, u"",
           check(11108, u"コロナ表示(&C)："),
           NumberLine(11104, u"不透明度：", 11109, 11113, 4),
-          row(tall(wide(control(ControlKind::List, 11085), 62), 6),
+          row(named(tall(wide(control(ControlKind::List, 11085), 62), 6), u"画像の一覧"),
               column(button(11086, u"追加"), button(11087, u"削除"), stretch())),
           check(11103, u"テクスチャ表示(&T)"),
           row(label(11116, u"名称(&N)："), edit(11117, 50), stretch()),

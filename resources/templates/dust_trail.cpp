@@ -8,7 +8,7 @@ using namespace layout;
 DialogTemplate DustTrail() {
   return {13018, QStringLiteral("ダストトレイル"),
           withButtons(
-              named(tall(wide(control(ControlKind::ObjectList, 11184), 64), 18), u"ダストトレイル"),
+              named(tall(wide(control(ControlKind::ObjectList, 11184), 74), 18), u"ダストトレイル"),
               button(11185, u"色の設定(&C)..."))};
 }
 

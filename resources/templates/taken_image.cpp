@@ -22,7 +22,7 @@ DialogTemplate TakenImage() {
         titled(group(11160, u"",
           check(11108, u"画像表示(&W)："),
           NumberLine(11107, u"全体の不透明度：", 11109, 11113, 4),
-          row(tall(wide(control(ControlKind::List, 11085), 62), 6),
+          row(named(tall(wide(control(ControlKind::List, 11085), 62), 6), u"画像の一覧"),
               column(button(11086, u"追加(&A)..."), button(11087, u"削除"), stretch())),
           row(check(11103, u"表示(&T)"), check(11114, u"アクティブ(&V)"),
               NumberLine(11104, u"不透明度：", 11105, 11106, 4)))),

@@ -1,6 +1,7 @@
 #include "siblings/controls/controls.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include <QButtonGroup>
 #include <QGuiApplication>
@@ -188,13 +189,20 @@ bool CVynSpinButton::eventFilter(QObject* watched, QEvent* event) {
     }
   }
   if (event->type() == QEvent::Wheel && isEnabled()) {
-    const auto* wheel = static_cast<QWheelEvent*>(event);
-    if (wheel->angleDelta().y() != 0) {
-      Q_EMIT deltaPressed(wheel->angleDelta().y() > 0 ? -1 : 1, wheel->modifiers());
-    }
+    Turn(*static_cast<QWheelEvent*>(event));
     return true;
   }
   return QWidget::eventFilter(watched, event);
+}
+
+/// Touch pads turn by less than a notch at a time.
+void CVynSpinButton::Turn(const QWheelEvent& wheel) {
+  wheelRest_ += wheel.angleDelta().y();
+  const int notches = wheelRest_ / QWheelEvent::DefaultDeltasPerStep;
+  wheelRest_ -= notches * QWheelEvent::DefaultDeltasPerStep;
+  for (int i = 0; i < std::abs(notches); ++i) {
+    Q_EMIT deltaPressed(notches > 0 ? -1 : 1, wheel.modifiers());
+  }
 }
 
 void CVynSpinButton::Press(int delta, Qt::KeyboardModifiers modifiers) {

@@ -145,11 +145,13 @@ class VYN_EXPORT CVynSpinButton final : public QWidget {
 
  private:
   void Press(int delta, Qt::KeyboardModifiers modifiers);
+  void Turn(const QWheelEvent& wheel);
   void DrawArrow(class QPainter& painter, bool up);
 
   std::optional<std::pair<int, int>> range_;
   int pressedDelta_ = 0;
   int repeatTimer_ = 0;
+  int wheelRest_ = 0;
 };
 
 }  // namespace vyn

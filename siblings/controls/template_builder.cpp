@@ -5,7 +5,9 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QGridLayout>
+#include <QRegularExpression>
 #include <QResizeEvent>
+#include <QSet>
 #include <QStyle>
 #include <QStyleOptionGroupBox>
 
@@ -319,14 +321,28 @@ class Builder {
   }
 
   void NameLabelsAndGroups() {
+    QSet<const QWidget*> named;
     for (qsizetype i = 0; i < set_.inOrder.size(); ++i) {
       QWidget* next = NextFocusable(i);
       if (next == nullptr) continue;
       auto* label = qobject_cast<CVynStatic*>(set_.inOrder[i]);
       const bool isLabel = label != nullptr && (next == set_.inOrder[i + 1] || HasMnemonic(label));
       if (isLabel) label->setBuddy(next);
+      if (isLabel) named.insert(next);
       if (auto* box = qobject_cast<CVynGroupBox*>(set_.inOrder[i])) box->SetFirstControl(next);
     }
+    for (qsizetype i = 0; i < set_.inOrder.size(); ++i) {
+      const auto* box = qobject_cast<CVynGroupBox*>(set_.inOrder[i]);
+      QWidget* first = box != nullptr ? NextFocusable(i) : nullptr;
+      if (first != nullptr && !named.contains(first)) NameAfterGroup(*box, first);
+    }
+  }
+
+  /// A control that has no text, label or name of its own is what its group's title says.
+  static void NameAfterGroup(const CVynGroupBox& box, QWidget* control) {
+    if (qobject_cast<QAbstractButton*>(control) || !control->accessibleName().isEmpty()) return;
+    static const QRegularExpression decoration(QStringLiteral("\\(&.\\)|[：:]$"));
+    control->setAccessibleName(box.title().remove(decoration).trimmed());
   }
 
   static bool HasMnemonic(const CVynStatic* label) {

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include <QComboBox>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QSlider>
 
@@ -25,10 +24,10 @@ constexpr ObjectColumn kTypeShownColumn{.title = u"表示", .kind = ObjectColumn
 constexpr int kBackwardPicture = 13100, kForwardPicture = 13102;
 constexpr double kPictureWidth = 14.0, kPictureHeight = 18.0;
 
-/// Whether other cells are shown after the list's call than before.
-bool ShowsCells(ObjectListReason reason) {
-  return reason == ObjectListReason::Fill || reason == ObjectListReason::AllButton ||
-         reason == ObjectListReason::CellChanged;
+/// Whether other cells are shown after the list's call than before. An empty batch asks nothing.
+bool ShowsCells(ObjectListReason reason, const tagUpdateInfo& record) {
+  return (reason == ObjectListReason::Fill && record.rowCount > 0) ||
+         reason == ObjectListReason::AllButton || reason == ObjectListReason::CellChanged;
 }
 
 void ShowPicture(QWidget* control, int number) {
@@ -51,7 +50,7 @@ CDlgElementClass::CDlgElementClass(CCorVyn* commandHandle, CCorVyn* secondHandle
       typeLists_(std::move(typeLists)) {}
 
 bool CDlgElementClass::OnInitDialog() {
-  if (HasCorVyn()) GetScript(savedScript_);
+  GetScript(savedScript_);
   CDlgObjectList::OnInitDialog();
   InitListBoxAObj();
   InitTypeLists();
@@ -63,7 +62,7 @@ bool CDlgElementClass::OnInitDialog() {
 }
 
 int CDlgElementClass::GetScript(QString& script) {
-  script = GetString(Path(u".Status"));
+  script = HasCorVyn() ? GetString(Path(u".Status")) : QString();
   return 1;
 }
 
@@ -200,7 +199,7 @@ int CDlgElementClass::OnVynListBoxAObj(quintptr reason, tagUpdateInfo* record) {
   const auto kind = static_cast<ObjectListReason>(reason);
   if (caller == typeLists_.end()) {
     CDlgObjectList::OnVynListBoxAObj(reason, record);
-    if (ShowsCells(kind)) UpdateDispCountAndTotalCount();
+    if (ShowsCells(kind, *record)) UpdateDispCountAndTotalCount();
   } else if (kind == ObjectListReason::Fill) {
     GetAllVynListBoxAObjType(*caller, *record);
   } else if (kind == ObjectListReason::CellChanged) {
@@ -235,7 +234,8 @@ void CDlgElementClass::FillTypeRow(const TypeList& typeList, tagUpdateInfo& reco
 void CDlgElementClass::ChangeDataItemOnceVynListBoxAObjType(const TypeList& typeList,
                                                             tagUpdateInfo& record) {
   const qint64 type = record.firstRow + record.rowIndex;
-  if (!HasCorVyn() || record.columnIndex != kTypeShown || record.rowIndex < 0) return;
+  if (!HasCorVyn() || record.columnIndex != kTypeShown) return;
+  if (record.rowIndex < 0 || record.rowIndex >= record.rowCount) return;
   if (type >= static_cast<qint64>(typeList.types.size())) return;
   const int value = record.Column(kTypeShown).Cell(record.rowIndex).value;
   DoitVisible(TypePath(typeList, type), value == 1);
@@ -243,21 +243,17 @@ void CDlgElementClass::ChangeDataItemOnceVynListBoxAObjType(const TypeList& type
   ObjectList().Update();
 }
 
-/// Enter in the search box searches; elsewhere it closes, as in every dialog.
 void CDlgElementClass::OnOK() {
-  if (IsSearching()) {
-    DoSearch(QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier) ? -1 : 1);
-    return;
-  }
   SaveSearchHistory();
   CDlgObjectList::OnOK();
 }
 
-/// The toolkit leaves Enter with Shift to nobody.
+/// Enter in the search box searches; elsewhere it closes, as in every dialog. Told apart here and
+/// not in OnOK, since the button can be pressed without taking the focus from the box.
 void CDlgElementClass::keyPressEvent(QKeyEvent* event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (isEnter && event->modifiers().testFlag(Qt::ShiftModifier) && IsSearching()) {
-    DoSearch(-1);
+  if (isEnter && IsSearching()) {
+    DoSearch(event->modifiers().testFlag(Qt::ShiftModifier) ? -1 : 1);
   } else {
     CDlgObjectList::keyPressEvent(event);
   }

@@ -45,7 +45,7 @@ void CDlgElementClass::SendData(const QString& command) {
 }
 
 void CDlgElementClass::ReadCount(bool keepsPosition) {
-  ObjectList().SetValueCountTotal(GetInt(Path(u".Count")), keepsPosition ? 1 : 0);
+  ObjectList().SetValueCountTotal(CountObjects(), keepsPosition ? 1 : 0);
 }
 
 bool CDlgElementClass::Confirm(int message) {
@@ -83,6 +83,8 @@ void CDlgElementClass::OnBnClickedElementDel() {
   if (ElementManager().DeleteObject(static_cast<int>(selected)) == 0) return;
   SendData(ObjectPath(selected) + u".DataRemove = True");
   ReadCount(true);
+  // A list that has become empty asks for no rows, at which the counts are told otherwise.
+  if (ObjectList().GetValueCountTotal() == 0) UpdateDispCountAndTotalCount();
   UpdateCtrl();
   ShowSky();
 }

@@ -16,8 +16,7 @@ CDlgListedObjects::CDlgListedObjects(CCorVyn* commandHandle, CCorVyn* secondHand
       declaration_(declaration) {}
 
 bool CDlgListedObjects::OnInitDialog() {
-  cancelScript_.clear();
-  if (HasCorVyn()) GetScript(cancelScript_);
+  GetScript(cancelScript_);
   CDlgObjectList::OnInitDialog();
   InitListBoxAObj();
   return true;
@@ -30,7 +29,7 @@ void CDlgListedObjects::AttachControls() {
 
 int CDlgListedObjects::GetScript(QString& script) {
   script.clear();
-  const int count = GetInt(ClassPath() + QStringView(u".Count"));
+  const int count = HasCorVyn() ? CountObjects() : 0;
   for (int row = 0; row < count; ++row) {
     for (const QStringView restored : declaration_.restoredPaths) {
       const QString path = ObjectPath(row) + restored;

@@ -37,6 +37,8 @@ QString CDlgObjectList::ObjectPath(qint64 row) const {
   return classPath_ + QStringView(u".No") + QString::number(row + 1);
 }
 
+int CDlgObjectList::CountObjects() { return GetInt(classPath_ + QStringView(u".Count")); }
+
 QString CDlgObjectList::ColumnTitle(int column) const { return columns_[column].title.toString(); }
 
 tagHeaderDataItem CDlgObjectList::HeaderOf(const ObjectColumn& column, quint32 id) {
@@ -76,7 +78,7 @@ void CDlgObjectList::InitListBoxAObj() {
   DeclareColumns();
   connect(objectList_, &CVynListBoxAObj::headerAreaWidthChanged, this,
           &CDlgObjectList::StretchObjectColumns);
-  objectList_->SetValueCountTotal(GetInt(classPath_ + QStringView(u".Count")), 0);
+  if (HasCorVyn()) objectList_->SetValueCountTotal(CountObjects(), 0);
   objectList_->CalcLayout();
   objectList_->Update();
   // The toolkit alone would leave a list that is mostly empty a good part of the screen.
@@ -208,6 +210,7 @@ void CDlgObjectList::ChangeAllButtonVynListBoxAObj(tagUpdateInfo& record) {
 
 void CDlgObjectList::SendColumn(int column, const QString& path, int value) {
   const ObjectColumn& declared = columns_[column];
+  if (declared.kind == ObjectColumnKind::Text) return;
   if (declared.kind == ObjectColumnKind::Choice) return SendOption(column, path, value);
   DoitVisible(path + declared.path, value == 1);
   if (!declared.secondPath.isEmpty()) DoitVisible(path + declared.secondPath, value == 1);

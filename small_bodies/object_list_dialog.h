@@ -65,6 +65,8 @@ class VYN_EXPORT CDlgObjectList : public CVynDialog {
   const QString& ClassPath() const { return classPath_; }
   CVynListBoxAObj& ObjectList() const { return *objectList_; }
   QString ObjectPath(qint64 row) const;
+  /// Asks how many objects there are.
+  int CountObjects();
   /// Colour, with the two texts of the parent, of what stands at this path behind the class's.
   void ChooseClassColor(QStringView path);
   void ShowSky() { Doit(QStringLiteral("Show Sky")); }

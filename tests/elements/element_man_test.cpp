@@ -15,38 +15,13 @@
 #include "engine/reference_engine.h"
 #include "engine/watched_cor_vyn.h"
 #include "resources/string_table.h"
+#include "tests/core_link/person.h"
 #include "tests/elements/element_case.h"
 
 namespace vyn {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-/// Does one thing after another in the modal windows that come up.
-class Person {
- public:
-  explicit Person(std::vector<std::function<void(QWidget*)>> actions)
-      : actions_(std::move(actions)) {
-    QObject::connect(&timer_, &QTimer::timeout, [this] { Act(); });
-    timer_.start(0);
-  }
-  ~Person() { EXPECT_EQ(done_, actions_.size()) << "a window did not come up"; }
-
- private:
-  void Act() {
-    QWidget* window = QApplication::activeModalWidget();
-    if (window == nullptr) return;
-    if (done_ == actions_.size()) {
-      ADD_FAILURE() << "one window too many: " << window->windowTitle().toStdString();
-      return window->deleteLater();
-    }
-    actions_[done_++](window);
-  }
-
-  std::vector<std::function<void(QWidget*)>> actions_;
-  std::size_t done_ = 0;
-  QTimer timer_;
-};
 
 CVynDialog& DialogIn(QWidget* window) { return *qobject_cast<CVynDialog*>(window); }
 

@@ -58,6 +58,11 @@ TEST_F(ElementFiles, OfCometsAreEditedImportedAndChanged) {
   EXPECT_EQ(ReadAll(work_.filePath(u"comets.eld"_s)).size(), 5 * kRecordSize);
 }
 
+TEST_F(ElementFiles, ThatVanishAreRejectedOrRunEmptyDoNoHarm) {
+  EXPECT_EQ(Trace(u"comet_file_faults.drive"_s),
+            ReadAll(QStringLiteral(VYN_SCRIPTS "/comet_file_faults.trace")));
+}
+
 TEST_F(ElementFiles, OfMinorPlanetsHaveTheirOwnSettings) {
   EXPECT_EQ(Trace(u"minor_planet_files.drive"_s),
             ReadAll(QStringLiteral(VYN_SCRIPTS "/minor_planet_files.trace")));

@@ -17,13 +17,18 @@ class Person {
  public:
   explicit Person(std::vector<std::function<void(QWidget*)>> actions)
       : actions_(std::move(actions)) {
-    QObject::connect(&timer_, &QTimer::timeout, [this] { Act(); });
-    timer_.start(0);
+    LookAgain();
   }
   ~Person() { EXPECT_EQ(done_, actions_.size()) << "a window did not come up"; }
 
  private:
+  /// One timer for each look, since a repeating one does not fire within its own handler, from
+  /// where an action may bring up the next window.
+  void LookAgain() {
+    QTimer::singleShot(0, &alive_, [this] { Act(); });
+  }
   void Act() {
+    LookAgain();
     QWidget* window = QApplication::activeModalWidget();
     if (window == nullptr) return;
     if (done_ == actions_.size()) {
@@ -35,7 +40,7 @@ class Person {
 
   std::vector<std::function<void(QWidget*)>> actions_;
   std::size_t done_ = 0;
-  QTimer timer_;
+  QObject alive_;
 };
 
 }  // namespace vyn

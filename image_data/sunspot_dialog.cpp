@@ -230,7 +230,9 @@ void CDlgSunSpot::OnBnClickedPtxBtnDelSpot() {
 void CDlgSunSpot::ClampTyped(const NumberField& field) {
   if (field.group == FieldGroup::Time) return;
   CDataSetDialog::ClampTyped(field);
-  record_.spotLatitudeDeg = std::clamp(record_.spotLatitudeDeg, -90.0, 90.0);
+  if (field.group == FieldGroup::Spot) {
+    record_.spotLatitudeDeg = std::clamp(record_.spotLatitudeDeg, -90.0, 90.0);
+  }
 }
 
 void CDlgSunSpot::OnNumberTyped(const NumberField& field) {

@@ -9,6 +9,7 @@
 
 #include <fitsio.h>
 
+#include "siblings/images/fits_tiles.h"
 #include "siblings/images/image_decoders.h"
 #include "siblings/images/image_limits.h"
 
@@ -55,20 +56,6 @@ struct FitsShape {
   int bytesPerValue = 1;
 };
 
-/// Tiles larger than the image would ask for memory that nothing accounts for.
-bool AreTilesSane(fitsfile* file, QSize size) {
-  int status = 0;
-  if (!fits_is_compressed_image(file, &status)) return true;
-  const std::array<std::pair<const char*, int>, 2> limits{
-      {{"ZTILE1", size.width()}, {"ZTILE2", size.height()}}};
-  return std::all_of(limits.begin(), limits.end(), [file](const auto& limit) {
-    long side = 1;
-    int missing = 0;
-    fits_read_key(file, TLONG, limit.first, &side, nullptr, &missing);
-    return missing != 0 || (side >= 1 && side <= limit.second);
-  });
-}
-
 /// The shape of the image at which the file stands; nothing for an empty one.
 std::optional<FitsShape> ShapeOf(FitsFile& file) {
   int bitsPerValue = 0;
@@ -96,7 +83,7 @@ std::optional<FitsShape> FindImage(FitsFile& file) {
   return std::nullopt;
 }
 
-/// The library reads on behind the end of compressed data that are cut short.
+/// Whether the file has all that its header promises.
 bool IsWhole(FitsFile& file, qint64 fileSize) {
   LONGLONG end = 0;
   fits_get_hduaddrll(file.Handle(), nullptr, nullptr, &end, &file.status);
@@ -105,9 +92,10 @@ bool IsWhole(FitsFile& file, qint64 fileSize) {
 
 bool IsAllowed(FitsFile& file, const FitsShape& shape, qint64 fileSize) {
   if (!IsImageSizeAllowed(shape.size, shape.planes * static_cast<int>(sizeof(float)))) return false;
-  if (!AreTilesSane(file.Handle(), shape.size)) return false;
   int status = 0;
-  if (fits_is_compressed_image(file.Handle(), &status)) return IsWhole(file, fileSize);
+  if (fits_is_compressed_image(file.Handle(), &status)) {
+    return IsWhole(file, fileSize) && AreTilesSound(file.Handle(), shape.planes, fileSize);
+  }
   return PixelCount(shape.size) * shape.planes * shape.bytesPerValue <= fileSize;
 }
 

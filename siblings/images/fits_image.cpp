@@ -71,22 +71,31 @@ std::optional<FitsShape> ShapeOf(FitsFile& file) {
   return FitsShape{{side(0), side(1)}, hasColors ? kColorPlanes : 1, std::abs(bitsPerValue) / 8};
 }
 
+/// Where the part behind the one at which the file stands begins.
+qint64 NextPart(FitsFile& file) {
+  LONGLONG end = 0;
+  fits_get_hduaddrll(file.Handle(), nullptr, nullptr, &end, &file.status);
+  return end;
+}
+
 /// Goes to the first part that holds an image.
-std::optional<FitsShape> FindImage(FitsFile& file) {
+std::optional<FitsShape> FindImage(FitsFile& file, const QByteArray& bytes) {
+  qint64 start = 0;
   for (int part = 1; part <= kMaxParts && file.IsGood(); ++part) {
+    if (!IsHeaderSound(bytes, start)) break;
     int kind = 0;
     fits_movabs_hdu(file.Handle(), part, &kind, &file.status);
     if (!file.IsGood()) break;
+    start = NextPart(file);
     if (kind != IMAGE_HDU) continue;
     if (const auto shape = ShapeOf(file)) return shape;
   }
   return std::nullopt;
 }
 
-/// Whether the file has all that its header promises.
+/// Whether the file has all that the header of its image promises.
 bool IsWhole(FitsFile& file, qint64 fileSize) {
-  LONGLONG end = 0;
-  fits_get_hduaddrll(file.Handle(), nullptr, nullptr, &end, &file.status);
+  const qint64 end = NextPart(file);
   return file.IsGood() && end <= fileSize;
 }
 
@@ -173,7 +182,7 @@ QImage ColorImage(const std::vector<float>& values, QSize size, const Stretch& s
 QImage DecodeFits(const QByteArray& file) {
   FitsFile fits(file);
   if (!fits.IsGood()) return {};
-  const auto shape = FindImage(fits);
+  const auto shape = FindImage(fits, file);
   if (!shape || !IsAllowed(fits, *shape, file.size())) return {};
   const std::vector<float> values = ReadValues(fits, *shape);
   if (values.empty()) return {};

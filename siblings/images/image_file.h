@@ -15,6 +15,7 @@ namespace vyn {
 /// A FITS image is the first one in the file, its first row at the bottom; three planes are red,
 /// green and blue. Its values are stretched to 8 bits: the lowest quarter of a per cent becomes
 /// black, the highest quarter white, in all planes alike; what is no number becomes black.
+/// Tiles may be compressed by RICE or GZIP.
 ///
 /// Refused are images of more than 32,767 pixels a side or 512 megabytes, and files of more than a
 /// gigabyte.

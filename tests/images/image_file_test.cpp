@@ -7,12 +7,9 @@
 #include <limits>
 
 #include <QBuffer>
-#include <QFile>
 #include <QGuiApplication>
-#include <QTemporaryDir>
-#include <QtEndian>
 
-#include "siblings/images/image_file.h"
+#include "tests/images/image_bytes.h"
 
 namespace vyn {
 namespace {
@@ -23,43 +20,12 @@ QString DataPath(const char* name) {
   return QStringLiteral(VYN_TEST_DATA "/") + QString::fromLatin1(name);
 }
 
-/// Writes bytes to a file under the name and loads it.
-QImage Load(const QByteArray& bytes, const QString& name) {
-  const QTemporaryDir folder;
-  const QString path = folder.filePath(name);
-  QFile file(path);
-  EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(bytes);
-  file.close();
-  return LoadImageFile(path);
-}
-
-QByteArray Bytes(const char* name) {
-  QFile file(DataPath(name));
-  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
-  return file.readAll();
-}
-
 QByteArray Encoded(const QImage& image, const char* format) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   EXPECT_TRUE(image.save(&buffer, format));
   return bytes;
-}
-
-/// The mean difference of a channel; far off for images of different sizes.
-double Difference(const QImage& a, const QImage& b) {
-  if (a.size() != b.size() || a.isNull()) return 1e9;
-  const QImage left = a.convertToFormat(QImage::Format_ARGB32);
-  const QImage right = b.convertToFormat(QImage::Format_ARGB32);
-  double sum = 0.0;
-  for (int y = 0; y < left.height(); ++y) {
-    const uchar* p = left.constScanLine(y);
-    const uchar* q = right.constScanLine(y);
-    for (int i = 0; i < 4 * left.width(); ++i) sum += std::abs(p[i] - q[i]);
-  }
-  return sum / (4.0 * left.width() * left.height());
 }
 
 struct RealCase {
@@ -89,10 +55,10 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(ImageFile, IsKnownByItsContent) {
   const QImage expected(DataPath("earth_512x256.png"));
-  EXPECT_EQ(Difference(Load(Bytes("earth_512x256.png"), u"a.fits"_s), expected), 0.0);
-  EXPECT_LE(Difference(Load(Bytes("earth_512x256_dxt1.dds"), u"a.jpg"_s), expected), 4.0);
-  EXPECT_TRUE(Load("GIF89a\1\0\1\0\0\0\0,", u"a.png"_s).isNull());
-  EXPECT_TRUE(Load("", u"a.png"_s).isNull());
+  EXPECT_EQ(Difference(LoadBytes(DataBytes("earth_512x256.png"), u"a.fits"_s), expected), 0.0);
+  EXPECT_LE(Difference(LoadBytes(DataBytes("earth_512x256_dxt1.dds"), u"a.jpg"_s), expected), 4.0);
+  EXPECT_TRUE(LoadBytes("GIF89a\1\0\1\0\0\0\0,", u"a.png"_s).isNull());
+  EXPECT_TRUE(LoadBytes("", u"a.png"_s).isNull());
   EXPECT_TRUE(LoadImageFile(u"/no/such/file.png"_s).isNull());
   EXPECT_TRUE(LoadImageFile(QStringLiteral(VYN_TEST_DATA)).isNull());
 }
@@ -101,20 +67,20 @@ TEST(ImageFile, CutShortIsRefused) {
   for (const char* name : {"earth_512x256.png", "earth_512x256_exif6.jpg", "earth_512x256_dxt1.dds",
                            "earth_512x256_rle32.tga", "made_sun193_256_int16.fits",
                            "made_sun193_256_tile_rice_1.fits"}) {
-    const QByteArray whole = Bytes(name);
+    const QByteArray whole = DataBytes(name);
     for (const qsizetype length : {whole.size() * 2 / 5, qsizetype{60}, qsizetype{7}}) {
-      EXPECT_TRUE(Load(whole.first(length), QString::fromLatin1(name)).isNull())
+      EXPECT_TRUE(LoadBytes(whole.first(length), QString::fromLatin1(name)).isNull())
           << name << ' ' << length;
     }
   }
   const QByteArray bmp = Encoded(QImage(DataPath("earth_512x256.png")), "BMP");
-  EXPECT_FALSE(Load(bmp, u"a.bmp"_s).isNull());
-  EXPECT_TRUE(Load(bmp.first(bmp.size() / 2), u"a.bmp"_s).isNull());
+  EXPECT_FALSE(LoadBytes(bmp, u"a.bmp"_s).isNull());
+  EXPECT_TRUE(LoadBytes(bmp.first(bmp.size() / 2), u"a.bmp"_s).isNull());
 }
 
 TEST(ImageFile, ABitmapMayLackItsFileHeader) {
   const QImage expected(DataPath("earth_512x256.png"));
-  EXPECT_EQ(Difference(Load(Encoded(expected, "BMP").sliced(14), u"a.dib"_s), expected), 0.0);
+  EXPECT_EQ(Difference(LoadBytes(Encoded(expected, "BMP").sliced(14), u"a.dib"_s), expected), 0.0);
 }
 
 template <class Number>
@@ -125,21 +91,21 @@ void Put(QByteArray& bytes, qsizetype offset, Number number) {
 TEST(ImageFile, TooLargeIsRefusedBeforeMemoryIsTaken) {
   QImage line(40'000, 1, QImage::Format_Grayscale8);
   line.fill(0);
-  EXPECT_TRUE(Load(Encoded(line, "PNG"), u"wide.png"_s).isNull());
+  EXPECT_TRUE(LoadBytes(Encoded(line, "PNG"), u"wide.png"_s).isNull());
   QByteArray tga(18, '\0');
   tga[2] = 10;
   Put<quint16>(tga, 12, 32'000);
   Put<quint16>(tga, 14, 32'000);
   tga[16] = 24;
-  EXPECT_TRUE(Load(tga + "\xFF\1\2\3", u"bomb.tga"_s).isNull());
-  QByteArray dds = Bytes("earth_512x256_dxt1.dds");
+  EXPECT_TRUE(LoadBytes(tga + "\xFF\1\2\3", u"bomb.tga"_s).isNull());
+  QByteArray dds = DataBytes("earth_512x256_dxt1.dds");
   Put<quint32>(dds, 12, 0xFFFFFFFF);
   Put<quint32>(dds, 16, 0x80000000);
-  EXPECT_TRUE(Load(dds, u"bomb.dds"_s).isNull());
+  EXPECT_TRUE(LoadBytes(dds, u"bomb.dds"_s).isNull());
   QByteArray bmp = Encoded(QImage(DataPath("earth_512x256.png")), "BMP");
   Put<qint32>(bmp, 18, 30'000);
   Put<qint32>(bmp, 22, -30'000);
-  EXPECT_TRUE(Load(bmp, u"bomb.bmp"_s).isNull());
+  EXPECT_TRUE(LoadBytes(bmp, u"bomb.bmp"_s).isNull());
 }
 
 QByteArray TgaHeader(int imageType, int width, int height, int bits, int descriptor) {
@@ -153,19 +119,19 @@ QByteArray TgaHeader(int imageType, int width, int height, int bits, int descrip
 }
 
 TEST(Tga, EachKindOfPixel) {
-  const QImage bottomUp = Load(TgaHeader(2, 1, 2, 24, 0) + "\1\2\3\4\5\6", u"a.tga"_s);
+  const QImage bottomUp = LoadBytes(TgaHeader(2, 1, 2, 24, 0) + "\1\2\3\4\5\6", u"a.tga"_s);
   EXPECT_EQ(bottomUp.pixel(0, 1), qRgb(3, 2, 1));
   EXPECT_EQ(bottomUp.pixel(0, 0), qRgb(6, 5, 4));
-  const QImage mirrored = Load(TgaHeader(3, 2, 1, 8, 0x30) + "\x10\x20", u"a.trg"_s);
+  const QImage mirrored = LoadBytes(TgaHeader(3, 2, 1, 8, 0x30) + "\x10\x20", u"a.trg"_s);
   EXPECT_EQ(mirrored.pixel(0, 0), qRgb(0x20, 0x20, 0x20));
-  const QImage packed = Load(TgaHeader(2, 1, 1, 16, 0x20) + "\x1F\x7C", u"a.tga"_s);
+  const QImage packed = LoadBytes(TgaHeader(2, 1, 1, 16, 0x20) + "\x1F\x7C", u"a.tga"_s);
   EXPECT_EQ(packed.pixel(0, 0), qRgb(255, 0, 255));
   QByteArray mapped = TgaHeader(9, 3, 1, 8, 0x20);
   mapped[1] = 1;
   Put<quint16>(mapped, 5, 2);
   mapped[7] = 24;
   const QByteArray mapAndPackets("\1\1\1\2\2\2\x81\1\0\7", 10);
-  const QImage colors = Load(mapped + mapAndPackets, u"a.tga"_s);
+  const QImage colors = LoadBytes(mapped + mapAndPackets, u"a.tga"_s);
   EXPECT_EQ(colors.pixel(0, 0), qRgb(2, 2, 2));
   EXPECT_EQ(colors.pixel(1, 0), qRgb(2, 2, 2));
   EXPECT_EQ(colors.pixel(2, 0), qRgb(0, 0, 0));  // beyond the map
@@ -191,9 +157,9 @@ TEST(Dds, UncompressedPixelsFollowTheirMasks) {
   Put<quint32>(dds, 96, 0x00F0);
   Put<quint32>(dds, 100, 0x000F);
   Put<quint32>(dds, 104, 0xF000);
-  const QImage image = Load(dds + QByteArray("\x21\xF3\x0F\x00", 4), u"a.dds"_s);
+  const QImage image = LoadBytes(dds + QByteArray("\x21\xF3\x0F\x00", 4), u"a.dds"_s);
   EXPECT_EQ(image.pixel(0, 0), qRgba(0x33, 0x22, 0x11, 0xFF));
-  EXPECT_TRUE(Load(dds + "\x21\xF3", u"a.dds"_s).isNull());
+  EXPECT_TRUE(LoadBytes(dds + "\x21\xF3", u"a.dds"_s).isNull());
 }
 
 /// All pixels red; where there is an alpha, half of it.
@@ -213,12 +179,13 @@ TEST(Dds, EachKindOfBlock) {
       {extended(77) + halfByEnds + red, 0x88},
   };
   for (const auto& [bytes, alpha] : cases) {
-    EXPECT_EQ(Load(bytes, u"a.dds"_s).pixel(3, 3), qRgba(255, 0, 0, alpha)) << bytes.constData();
-    EXPECT_TRUE(Load(bytes.chopped(1), u"a.dds"_s).isNull());
+    EXPECT_EQ(LoadBytes(bytes, u"a.dds"_s).pixel(3, 3), qRgba(255, 0, 0, alpha))
+        << bytes.constData();
+    EXPECT_TRUE(LoadBytes(bytes.chopped(1), u"a.dds"_s).isNull());
   }
   const QByteArray grey = DdsHeader(4, "ATI1") + halfByEnds;
-  EXPECT_EQ(qRed(Load(grey, u"a.dds"_s).pixel(3, 3)), 0x88);
-  EXPECT_TRUE(Load(DdsHeader(4, "BC7?") + halfByFourBits + red, u"a.dds"_s).isNull());
+  EXPECT_EQ(qRed(LoadBytes(grey, u"a.dds"_s).pixel(3, 3)), 0x88);
+  EXPECT_TRUE(LoadBytes(DdsHeader(4, "BC7?") + halfByFourBits + red, u"a.dds"_s).isNull());
 }
 
 /// The first corner of the stored picture is dark.
@@ -232,7 +199,7 @@ TEST(ImageFile, EveryOrientationOfAPhotographIsCarriedOut) {
     QByteArray exif("Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0?\0\0\0\0\0\0\0", 32);
     exif[24] = static_cast<char>(orientation);
     const QByteArray segment = QByteArray("\xFF\xE1\0", 3) + char(2 + exif.size()) + exif;
-    const QImage image = Load(jpeg.first(2) + segment + jpeg.sliced(2), u"a.jpe"_s);
+    const QImage image = LoadBytes(jpeg.first(2) + segment + jpeg.sliced(2), u"a.jpe"_s);
     EXPECT_EQ(image.size(), orientation < 5 ? QSize(16, 8) : QSize(8, 16)) << orientation;
     EXPECT_LT(qGray(image.pixel(dark[orientation - 1])), 60) << orientation;
     EXPECT_GT(qGray(image.pixel(image.width() / 2, image.height() / 2)), 200) << orientation;
@@ -305,7 +272,8 @@ TEST(Fits, EveryKindOfNumberIsStretched) {
   };
   for (const auto& [bitpix, data] : cases) {
     SCOPED_TRACE(bitpix);
-    ExpectRamp(Load(FitsWriter().Part(kSimple, Shape(bitpix, {3, 2}), data).Bytes(), u"a.fit"_s));
+    ExpectRamp(
+        LoadBytes(FitsWriter().Part(kSimple, Shape(bitpix, {3, 2}), data).Bytes(), u"a.fit"_s));
   }
 }
 
@@ -314,13 +282,13 @@ TEST(Fits, HonoursScaleAndBlanks) {
   cards.push_back("BSCALE  =                 -2.0");
   cards.push_back("BZERO   =              32768.0");
   const QByteArray falling = BigEndian<qint16>({0, -1, -2, -3, -4, -5});
-  ExpectRamp(Load(FitsWriter().Part(kSimple, cards, falling).Bytes(), u"a.fts"_s));
+  ExpectRamp(LoadBytes(FitsWriter().Part(kSimple, cards, falling).Bytes(), u"a.fts"_s));
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const QImage holed =
-      Load(FitsWriter()
-               .Part(kSimple, Shape(-32, {3, 2}), BigEndian<float>({10, nan, 12, 13, 14, 15}))
-               .Bytes(),
-           u"a.fits"_s);
+      LoadBytes(FitsWriter()
+                    .Part(kSimple, Shape(-32, {3, 2}), BigEndian<float>({10, nan, 12, 13, 14, 15}))
+                    .Bytes(),
+                u"a.fits"_s);
   EXPECT_EQ(qGray(holed.pixel(1, 1)), 0);
   EXPECT_EQ(qGray(holed.pixel(2, 1)), 102);
 }
@@ -332,10 +300,10 @@ TEST(Fits, TakesTheFirstImageAndColorPlanes) {
   cards.push_back(IntCard("PCOUNT", 0));
   cards.push_back(IntCard("GCOUNT", 1));
   extended.Part("XTENSION= 'IMAGE   '", cards, BigEndian<quint8>({0, 1, 2, 3, 4, 5}));
-  ExpectRamp(Load(extended.Bytes(), u"a.fits"_s));
+  ExpectRamp(LoadBytes(extended.Bytes(), u"a.fits"_s));
   const QByteArray planes = BigEndian<quint8>({0, 255, 255, 0, 0, 0});
   const QImage colors =
-      Load(FitsWriter().Part(kSimple, Shape(8, {2, 1, 3}), planes).Bytes(), u"a.fits"_s);
+      LoadBytes(FitsWriter().Part(kSimple, Shape(8, {2, 1, 3}), planes).Bytes(), u"a.fits"_s);
   EXPECT_EQ(colors.pixel(0, 0), qRgb(0, 255, 0));
   EXPECT_EQ(colors.pixel(1, 0), qRgb(255, 0, 0));
 }
@@ -349,17 +317,18 @@ TEST(Fits, TilesAreTheSameImage) {
 TEST(Fits, HostileHeadersAreRefused) {
   const QByteArray data(2880, '\1');
   EXPECT_TRUE(
-      Load(FitsWriter().Part(kSimple, Shape(-64, {30'000, 30'000}), data).Bytes(), u"a.fits"_s)
+      LoadBytes(FitsWriter().Part(kSimple, Shape(-64, {30'000, 30'000}), data).Bytes(), u"a.fits"_s)
           .isNull());
   EXPECT_TRUE(
-      Load(FitsWriter().Part(kSimple, Shape(8, {100'000, 2}), data).Bytes(), u"a.fits"_s).isNull());
+      LoadBytes(FitsWriter().Part(kSimple, Shape(8, {100'000, 2}), data).Bytes(), u"a.fits"_s)
+          .isNull());
   EXPECT_TRUE(
-      Load(FitsWriter().Part(kSimple, Shape(17, {3, 2}), data).Bytes(), u"a.fits"_s).isNull());
-  QByteArray tiles = Bytes("made_sun193_256_tile_rice_1.fits");
+      LoadBytes(FitsWriter().Part(kSimple, Shape(17, {3, 2}), data).Bytes(), u"a.fits"_s).isNull());
+  QByteArray tiles = DataBytes("made_sun193_256_tile_rice_1.fits");
   const qsizetype tile = tiles.indexOf("ZTILE1");
   ASSERT_GT(tile, 0);
   tiles.replace(tile + 10, 20, QByteArray("2000000000").rightJustified(20));
-  EXPECT_TRUE(Load(tiles, u"a.fits"_s).isNull());
+  EXPECT_TRUE(LoadBytes(tiles, u"a.fits"_s).isNull());
 }
 
 }  // namespace

@@ -9,11 +9,7 @@
 #include <QStringList>
 
 #include "engine/reference_engine.h"
-
-/// Where the test library looks for it: beside the type.
-inline void PrintTo(const QString& text, std::ostream* out) {
-  *out << '"' << text.toStdString() << '"';
-}
+#include "tests/print_text.h"
 
 namespace vyn {
 

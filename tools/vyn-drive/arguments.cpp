@@ -1,5 +1,7 @@
 #include "tools/vyn-drive/arguments.h"
 
+#include <cmath>
+
 #include "tools/vyn-drive/script.h"
 
 namespace vyn::drive {
@@ -10,7 +12,11 @@ using namespace Qt::StringLiterals;
 double ToNumber(QStringView digits, const QString& word, QStringView what) {
   bool isNumber = false;
   const double number = digits.toDouble(&isNumber);
-  if (!isNumber) throw ScriptError{u"not a number: "_s + word + u" (" + what + u")"};
+  // No screen is larger, and no pixel is infinitely far away.
+  constexpr double kMost = 1e6;
+  if (!isNumber || !(std::abs(number) <= kMost)) {
+    throw ScriptError{u"not a number: "_s + word + u" (" + what + u")"};
+  }
   return number;
 }
 

@@ -14,6 +14,12 @@ void ImportProgress::Attach(const QWidget& window, const QProgressBar& bar, QWid
                             std::optional<int> stopPercent) {
   caption_ = window.windowTitle();
   percent_ = bar.value();
+  if (stopPercent && percent_ >= *stopPercent) {
+    // The bar starts there; the button can be pressed when the window is on the screen.
+    QMetaObject::invokeMethod(
+        &stop, [&stop] { Click(stop); }, Qt::QueuedConnection);
+    stopPercent.reset();
+  }
   connect(&bar, &QProgressBar::valueChanged, this, [this, stopPercent, &stop](int percent) mutable {
     percent_ = percent;
     if (!stopPercent || percent < *stopPercent) return;

@@ -1,4 +1,5 @@
 // Commands that print what a person sees.
+#include <algorithm>
 #include <array>
 
 #include <QDir>
@@ -85,6 +86,9 @@ void RunCells(Session& session, Arguments& arguments) {
   const int count = arguments.Count(u"COUNT");
   arguments.End();
   const auto list = ListOf(shown);
+  if (count > list->RowCount() - first) {
+    throw ScriptError{u"no such row: "_s + QString::number(std::max(first, list->RowCount()))};
+  }
   for (int row = first; row < first + count; ++row) {
     Print(u"  "_s + QString::number(row) + u": " + list->Cells(row).join(u'|'));
   }

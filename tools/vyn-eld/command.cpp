@@ -96,7 +96,8 @@ std::span<const Command> Commands() {
        u"given; one without an identifier is skipped. With --update objects that TARGET has are\n"
        u"refreshed without further ado; --duplicate then decides about those that a person has\n"
        u"edited. With --kind only objects of that kind are taken. A dry run changes nothing and\n"
-       u"says of each object what would happen, with the fields that differ; --json is for it.\n"
+       u"says of each object what would happen, with the fields that differ. With --json that is\n"
+       u"an array of the objects; without a dry run it holds the counts.\n"
        u"A malformed object is reported and the next one taken; when TARGET cannot be written\n"
        u"the run ends.",
        2, 2, {{u"kind", u"comet|minorplanet"}, {u"update", u""}, {u"duplicate", u"skip|overwrite"},

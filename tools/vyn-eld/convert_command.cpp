@@ -99,7 +99,9 @@ class Conversion {
 
   int Run() {
     if (!from_.Open(input_, DiskFile::Mode::Read)) return Fail(input_ + u": cannot be read"_s);
-    if (IsTheInput(output_)) return Fail(output_ + u": is the input itself"_s);
+    for (const QString& written : {output_, temporary_}) {
+      if (IsTheInput(written)) return Fail(written + u": is the input itself"_s);
+    }
     if (!to_.Open(temporary_, DiskFile::Mode::Create) || !to_.Truncate(0)) {
       return Fail(output_ + u": cannot be written"_s);
     }

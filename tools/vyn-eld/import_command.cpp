@@ -1,5 +1,6 @@
 // The command import: the import engine with the decisions that the command line makes.
-#include <unordered_set>
+#include <algorithm>
+#include <unordered_map>
 
 #include "elements/element_importer.h"
 #include "resources/string_table.h"
@@ -37,7 +38,7 @@ class ImportRun {
         kind_(words.Value(u"kind"_s)),
         flags_(import_flag::kSkipAllBlanks | (overwrites_ ? import_flag::kOverwriteAllDuplicates
                                                           : import_flag::kSkipAllDuplicates)) {
-    if (words.Has(u"dry-run"_s) && words.Has(u"json"_s)) json_.emplace();
+    if (words.Has(u"json"_s)) json_.emplace();
     isDryRun_ = words.Has(u"dry-run"_s);
   }
 
@@ -111,23 +112,39 @@ class ImportRun {
       return Tell(object, {}, u"fail"_s, OneLine(importer.ErrorText()));
     }
     const QByteArray& record = candidate.records.front();
-    const bool isAddedBefore = foretold_.contains(candidate.key);
-    const bool isDuplicate = candidate.exists || isAddedBefore;
-    const bool isFree = mode_ == ImportMode::Update && !candidate.isEdited;
+    const auto before = foretold_.find(candidate.key);
+    const bool isTakenBefore = before != foretold_.end();
+    const bool isEdited = isTakenBefore ? before->second : candidate.isEdited;
+    const bool isFree = mode_ == ImportMode::Update && !isEdited;
     if (candidate.isBlank) {
       ++skipped_;
       Tell(object, record, u"skip"_s, u"it has no identifier"_s);
-    } else if (!isDuplicate) {
-      ++added_;
-      foretold_.insert(candidate.key);
-      Tell(object, record, u"add"_s, {});
-    } else if (overwrites_ || isFree) {
-      ++overwritten_;
-      TellDifferences(object, candidate, importer.Target());
-    } else {
+    } else if ((candidate.exists || isTakenBefore) && !overwrites_ && !isFree) {
       ++skipped_;
       Tell(object, record, u"skip"_s,
-           candidate.isEdited ? u"a person has edited it"_s : u"it is there already"_s);
+           isEdited ? u"a person has edited it"_s : u"it is there already"_s);
+    } else if (!DiskFile().Open(LinkTarget(target_), DiskFile::Mode::Change)) {
+      ++failed_;
+      isStopped_ = true;
+      Tell(object, record, u"fail"_s, target_ + u" cannot be written"_s);
+    } else {
+      foretold_[candidate.key] = FieldBytes(ViewOf(record), ElementField::EditedMark) == "*";
+      ForetellWriting(object, candidate, isTakenBefore);
+    }
+  }
+
+  void ForetellWriting(int object, const ElementImporter::Candidate& candidate,
+                       bool isTakenBefore) {
+    const QByteArray& record = candidate.records.front();
+    if (isTakenBefore) {
+      ++overwritten_;
+      Tell(object, record, u"overwrite"_s, u"what an object before it brings"_s);
+    } else if (candidate.exists) {
+      ++overwritten_;
+      TellDifferences(object, candidate, importer_.Target());
+    } else {
+      ++added_;
+      Tell(object, record, u"add"_s, {});
     }
   }
 
@@ -143,8 +160,7 @@ class ImportRun {
     for (std::size_t page = 0; page < std::min(old.size(), candidate.records.size()); ++page) {
       AddChanges(ViewOf(old[page]), ViewOf(candidate.records[page]), page, changes);
     }
-    Tell(object, candidate.records.front(), u"overwrite"_s,
-         old.empty() ? u"what is added before"_s : QString(), changes);
+    Tell(object, candidate.records.front(), u"overwrite"_s, {}, changes);
   }
 
   static QJsonObject Change(const QString& field, const QString& before, const QString& after) {
@@ -190,7 +206,15 @@ class ImportRun {
                                 .arg(skipped_)
                                 .arg(failed_);
     if (!json_) Print(summary);
+    if (json_ && !isDryRun_) json_->Add(Counts());
     return failed_ > 0 ? kFoundTrouble : kDone;
+  }
+
+  QJsonObject Counts() const {
+    return {{u"added"_s, added_},
+            {u"overwritten"_s, overwritten_},
+            {u"skipped"_s, skipped_},
+            {u"failed"_s, failed_}};
   }
 
   const QString source_;
@@ -205,7 +229,8 @@ class ImportRun {
   int flags_;
   int targetCount_ = 0;
   bool isStopped_ = false;
-  std::unordered_set<IdentifierKey, KeyHash> foretold_;
+  /// The objects that a dry run would have written by now, and whether a person edited them.
+  std::unordered_map<IdentifierKey, bool, KeyHash> foretold_;
   int added_ = 0;
   int overwritten_ = 0;
   int skipped_ = 0;
@@ -227,7 +252,9 @@ int Delete(const Words& words) {
   std::vector<int> objects;
   for (const QString& identifier : words.plain.sliced(1)) {
     const int object = file.SearchObjectFileIndex(IdentifierKey::OfText(identifier));
-    if (object >= 0) objects.push_back(object);
+    // One that is named twice is taken out once.
+    const bool isNew = std::find(objects.begin(), objects.end(), object) == objects.end();
+    if (object >= 0 && isNew) objects.push_back(object);
     if (object >= 0) continue;
     PrintError(path + u": no object "_s + identifier);
     exitCode = kFoundTrouble;

@@ -44,6 +44,12 @@ int Help(const QStringList& arguments) {
   return arguments.isEmpty() || command != nullptr ? kDone : kWrongUse;
 }
 
+bool AsksForHelp(const QStringList& arguments) {
+  const qsizetype help = arguments.indexOf(u"--help"_s);
+  const qsizetype endOfOptions = arguments.indexOf(u"--"_s);
+  return help >= 0 && (endOfOptions < 0 || help < endOfOptions);
+}
+
 int Run(QStringList arguments) {
   const QString name = arguments.isEmpty() ? QString() : arguments.takeFirst();
   if (name == u"help" || name == u"--help" || name == u"-h") return Help(arguments);
@@ -53,7 +59,7 @@ int Run(QStringList arguments) {
                               : u"unknown command: "_s + name + u"; see vyn-eld help"_s);
     return kWrongUse;
   }
-  if (arguments.contains(u"--help"_s)) return Help({name});
+  if (AsksForHelp(arguments)) return Help({name});
   QString reason;
   const auto words = ReadWords(*command, arguments, &reason);
   if (words) return command->run(*words);

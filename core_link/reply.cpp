@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <limits>
 #include <string>
 
@@ -29,7 +30,8 @@ double ToDouble(QStringView reply) {
   const std::string text = NumberText(reply);
   double value = 0.0;
   std::from_chars(text.data(), text.data() + text.size(), value);
-  return value;
+  // Words such as "inf" are no numbers here.
+  return std::isfinite(value) ? value : 0.0;
 }
 
 int ToInt(QStringView reply) {

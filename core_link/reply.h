@@ -11,7 +11,7 @@ bool ToBool(QStringView reply);
 
 /// The number at the beginning of the reply, as the C conversion of a number's longest prefix
 /// reads it whatever the locale: leading white space, sign, digits, fraction, exponent. 0.0 when
-/// there is none.
+/// there is none, also for the words "inf" and "nan" and beyond the range of double.
 double ToDouble(QStringView reply);
 
 /// The decimal integer at the beginning of the reply, 0 when there is none. A number beyond the

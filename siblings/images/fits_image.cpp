@@ -71,11 +71,17 @@ std::optional<FitsShape> ShapeOf(FitsFile& file) {
   return FitsShape{{side(0), side(1)}, hasColors ? kColorPlanes : 1, std::abs(bitsPerValue) / 8};
 }
 
-/// Where the part behind the one at which the file stands begins.
-qint64 NextPart(FitsFile& file) {
+/// Where the data of the part at which the file stands begin and where the next part does.
+struct PartPlace {
+  qint64 data = 0;
+  qint64 end = 0;
+};
+
+PartPlace PlaceOf(FitsFile& file) {
+  LONGLONG data = 0;
   LONGLONG end = 0;
-  fits_get_hduaddrll(file.Handle(), nullptr, nullptr, &end, &file.status);
-  return end;
+  fits_get_hduaddrll(file.Handle(), nullptr, &data, &end, &file.status);
+  return {data, end};
 }
 
 /// Goes to the first part that holds an image.
@@ -86,26 +92,24 @@ std::optional<FitsShape> FindImage(FitsFile& file, const QByteArray& bytes) {
     int kind = 0;
     fits_movabs_hdu(file.Handle(), part, &kind, &file.status);
     if (!file.IsGood()) break;
-    start = NextPart(file);
+    start = PlaceOf(file).end;
     if (kind != IMAGE_HDU) continue;
     if (const auto shape = ShapeOf(file)) return shape;
   }
   return std::nullopt;
 }
 
-/// Whether the file has all that the header of its image promises.
-bool IsWhole(FitsFile& file, qint64 fileSize) {
-  const qint64 end = NextPart(file);
-  return file.IsGood() && end <= fileSize;
-}
-
+/// Whether the image is small enough and all of it is in the file. What fills the last block of an
+/// uncompressed one may be missing.
 bool IsAllowed(FitsFile& file, const FitsShape& shape, qint64 fileSize) {
   if (!IsImageSizeAllowed(shape.size, shape.planes * static_cast<int>(sizeof(float)))) return false;
+  const PartPlace place = PlaceOf(file);
+  if (!file.IsGood()) return false;
   int status = 0;
   if (fits_is_compressed_image(file.Handle(), &status)) {
-    return IsWhole(file, fileSize) && AreTilesSound(file.Handle(), shape.planes, fileSize);
+    return place.end <= fileSize && AreTilesSound(file.Handle(), shape.planes, fileSize);
   }
-  return PixelCount(shape.size) * shape.planes * shape.bytesPerValue <= fileSize;
+  return place.data + PixelCount(shape.size) * shape.planes * shape.bytesPerValue <= fileSize;
 }
 
 std::vector<float> ReadValues(FitsFile& file, const FitsShape& shape) {

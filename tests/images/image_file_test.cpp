@@ -6,10 +6,10 @@
 #include <cmath>
 #include <limits>
 
-#include <QBuffer>
 #include <QGuiApplication>
 
 #include "tests/images/image_bytes.h"
+#include "tests/images/made_images.h"
 
 namespace vyn {
 namespace {
@@ -18,14 +18,6 @@ using namespace Qt::StringLiterals;
 
 QString DataPath(const char* name) {
   return QStringLiteral(VYN_TEST_DATA "/") + QString::fromLatin1(name);
-}
-
-QByteArray Encoded(const QImage& image, const char* format) {
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  EXPECT_TRUE(image.save(&buffer, format));
-  return bytes;
 }
 
 struct RealCase {
@@ -83,11 +75,6 @@ TEST(ImageFile, ABitmapMayLackItsFileHeader) {
   EXPECT_EQ(Difference(LoadBytes(Encoded(expected, "BMP").sliced(14), u"a.dib"_s), expected), 0.0);
 }
 
-template <class Number>
-void Put(QByteArray& bytes, qsizetype offset, Number number) {
-  qToLittleEndian(number, bytes.data() + offset);
-}
-
 TEST(ImageFile, TooLargeIsRefusedBeforeMemoryIsTaken) {
   QImage line(40'000, 1, QImage::Format_Grayscale8);
   line.fill(0);
@@ -106,16 +93,6 @@ TEST(ImageFile, TooLargeIsRefusedBeforeMemoryIsTaken) {
   Put<qint32>(bmp, 18, 30'000);
   Put<qint32>(bmp, 22, -30'000);
   EXPECT_TRUE(LoadBytes(bmp, u"bomb.bmp"_s).isNull());
-}
-
-QByteArray TgaHeader(int imageType, int width, int height, int bits, int descriptor) {
-  QByteArray header(18, '\0');
-  header[2] = static_cast<char>(imageType);
-  Put<quint16>(header, 12, static_cast<quint16>(width));
-  Put<quint16>(header, 14, static_cast<quint16>(height));
-  header[16] = static_cast<char>(bits);
-  header[17] = static_cast<char>(descriptor);
-  return header;
 }
 
 TEST(Tga, EachKindOfPixel) {
@@ -137,19 +114,8 @@ TEST(Tga, EachKindOfPixel) {
   EXPECT_EQ(colors.pixel(2, 0), qRgb(0, 0, 0));  // beyond the map
 }
 
-/// The header of a DDS file of 4 by 4 pixels.
-QByteArray DdsHeader(quint32 flags, const QByteArray& fourCc) {
-  QByteArray header(128, '\0');
-  header.replace(0, 4, "DDS ");
-  Put<quint32>(header, 12, 4);
-  Put<quint32>(header, 16, 4);
-  Put<quint32>(header, 80, flags);
-  header.replace(84, 4, fourCc);
-  return header;
-}
-
 TEST(Dds, UncompressedPixelsFollowTheirMasks) {
-  QByteArray dds = DdsHeader(0x41, QByteArray(4, '\0'));
+  QByteArray dds = DdsHeader({4, 4}, 0x41, QByteArray(4, '\0'));
   Put<quint32>(dds, 12, 1);
   Put<quint32>(dds, 16, 2);
   Put<quint32>(dds, 88, 16);
@@ -168,12 +134,12 @@ TEST(Dds, EachKindOfBlock) {
   const QByteArray halfByFourBits(8, '\x88');
   const QByteArray halfByEnds("\x88\x88\0\0\0\0\0\0", 8);
   const auto extended = [](char number) -> QByteArray {
-    return DdsHeader(4, "DX10") + QByteArray(1, number) + QByteArray(19, '\0');
+    return DdsHeader({4, 4}, 4, "DX10") + QByteArray(1, number) + QByteArray(19, '\0');
   };
   const std::pair<QByteArray, int> cases[] = {
-      {DdsHeader(4, "DXT1") + red, 255},
-      {DdsHeader(4, "DXT3") + halfByFourBits + red, 0x88},
-      {DdsHeader(4, "DXT5") + halfByEnds + red, 0x88},
+      {DdsHeader({4, 4}, 4, "DXT1") + red, 255},
+      {DdsHeader({4, 4}, 4, "DXT3") + halfByFourBits + red, 0x88},
+      {DdsHeader({4, 4}, 4, "DXT5") + halfByEnds + red, 0x88},
       {extended(71) + red, 255},
       {extended(74) + halfByFourBits + red, 0x88},
       {extended(77) + halfByEnds + red, 0x88},
@@ -183,9 +149,9 @@ TEST(Dds, EachKindOfBlock) {
         << bytes.constData();
     EXPECT_TRUE(LoadBytes(bytes.chopped(1), u"a.dds"_s).isNull());
   }
-  const QByteArray grey = DdsHeader(4, "ATI1") + halfByEnds;
+  const QByteArray grey = DdsHeader({4, 4}, 4, "ATI1") + halfByEnds;
   EXPECT_EQ(qRed(LoadBytes(grey, u"a.dds"_s).pixel(3, 3)), 0x88);
-  EXPECT_TRUE(LoadBytes(DdsHeader(4, "BC7?") + halfByFourBits + red, u"a.dds"_s).isNull());
+  EXPECT_TRUE(LoadBytes(DdsHeader({4, 4}, 4, "BC7?") + halfByFourBits + red, u"a.dds"_s).isNull());
 }
 
 /// The first corner of the stored picture is dark.
@@ -204,55 +170,6 @@ TEST(ImageFile, EveryOrientationOfAPhotographIsCarriedOut) {
     EXPECT_LT(qGray(image.pixel(dark[orientation - 1])), 60) << orientation;
     EXPECT_GT(qGray(image.pixel(image.width() / 2, image.height() / 2)), 200) << orientation;
   }
-}
-
-/// A FITS file of one part for each call.
-class FitsWriter {
- public:
-  FitsWriter& Part(const QByteArray& firstCard, const std::vector<QByteArray>& cards,
-                   const QByteArray& data) {
-    QByteArray header = Card(firstCard);
-    for (const QByteArray& card : cards) header += Card(card);
-    bytes_ += Filled(header + Card("END"), ' ') + Filled(data, '\0');
-    return *this;
-  }
-  const QByteArray& Bytes() const { return bytes_; }
-
- private:
-  static QByteArray Card(const QByteArray& text) { return text.leftJustified(80, ' '); }
-  static QByteArray Filled(QByteArray bytes, char fill) {
-    return bytes.leftJustified((bytes.size() + 2879) / 2880 * 2880, fill);
-  }
-
-  QByteArray bytes_;
-};
-
-const QByteArray kSimple = "SIMPLE  =                    T";
-
-QByteArray IntCard(const char* key, int value) {
-  return QByteArray(key).leftJustified(8, ' ') + "= " +
-         QByteArray::number(value).rightJustified(20);
-}
-
-template <class Number>
-QByteArray BigEndian(const std::vector<double>& values) {
-  QByteArray bytes;
-  for (const double value : values) {
-    char text[sizeof(Number)];
-    qToBigEndian(static_cast<Number>(value), text);
-    bytes.append(text, sizeof(Number));
-  }
-  return bytes;
-}
-
-std::vector<QByteArray> Shape(int bitpix, std::initializer_list<int> lengths) {
-  std::vector<QByteArray> cards{IntCard("BITPIX", bitpix),
-                                IntCard("NAXIS", static_cast<int>(lengths.size()))};
-  int axis = 0;
-  for (const int length : lengths) {
-    cards.push_back(IntCard(("NAXIS" + std::to_string(++axis)).c_str(), length));
-  }
-  return cards;
 }
 
 /// A ramp of 0, 1 ... 5, upwards row by row, is black at the bottom left.

@@ -149,7 +149,9 @@ CalendarDate JdToDate2(double jd, double secondStep) {
 CalendarDate ChangeTimezone(const CalendarDate& date, double timezoneHours) {
   const double shiftSeconds = (timezoneHours - date.timezoneHours) * 3600.0;
   const double seconds = date.hour * 3600.0 + date.minute * 60.0 + date.second + shiftSeconds;
-  const long long milliseconds = std::llround(seconds * 1000.0);
+  constexpr double kMostSeconds = kFarthestJd * 86400.0;
+  const long long milliseconds =
+      std::llround(std::clamp(seconds, -kMostSeconds, kMostSeconds) * 1000.0);
   const long long days = FloorDivide(milliseconds, kMillisecondsPerDay);
   const int rest = static_cast<int>(milliseconds - days * kMillisecondsPerDay);
   return DateAndTime(DayNumber(date.year, date.month, date.day) + days, rest / 1000,

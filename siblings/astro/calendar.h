@@ -40,7 +40,8 @@ void JdToDate(double jd, int* year, int* month, double* day);
 /// 0.00004 s.
 CalendarDate JdToDate2(double jd, double secondStep = 0.001);
 
-/// The same moment told in another time zone, to the nearest millisecond.
+/// The same moment told in another time zone, to the nearest millisecond. What no zone is, such as
+/// 1e300 hours, shifts the date by a million years at most.
 CalendarDate ChangeTimezone(const CalendarDate& date, double timezoneHours);
 
 /// Non-zero when the calendar has this day: the month is 1 to 12, the day, fraction aside, is one

@@ -91,6 +91,8 @@ TEST(Calendar, TimezonesShiftTheDateAndKeepTheMoment) {
   const CalendarDate roundedUp = ChangeTimezone({2024, 2, 28, 23, 59, 59.9996, 0.0}, 0.0);
   EXPECT_EQ(roundedUp.day, 29);
   EXPECT_EQ(roundedUp.second, 0.0);
+  EXPECT_EQ(ChangeTimezone(utc, 1e300).year, ChangeTimezone(utc, 1e20).year);
+  EXPECT_LT(ChangeTimezone(utc, -1e300).year, -990'000);
 }
 
 TEST(Calendar, HoursAndMonthsBeyondTheirRangeCountOn) {

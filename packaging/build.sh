@@ -4,7 +4,7 @@
 packages=(
   build-essential cmake ninja-build pkg-config
   qt6-base-dev libgl-dev liberfa-dev libcfitsio-dev libsquish-dev
-  libgtest-dev libbenchmark-dev strace
+  libgtest-dev libgmock-dev libbenchmark-dev strace
   fonts-ipafont-gothic
 )
 

@@ -86,10 +86,9 @@ void RunCells(Session& session, Arguments& arguments) {
   const int count = arguments.Count(u"COUNT");
   arguments.End();
   const auto list = ListOf(shown);
-  if (count > list->RowCount() - first) {
-    throw ScriptError{u"no such row: "_s + QString::number(std::max(first, list->RowCount()))};
-  }
-  for (int row = first; row < first + count; ++row) {
+  // A list may have fewer rows than are asked for.
+  const int shownCount = std::min(count, std::max(0, list->RowCount() - first));
+  for (int row = first; row < first + shownCount; ++row) {
     Print(u"  "_s + QString::number(row) + u": " + list->Cells(row).join(u'|'));
   }
 }

@@ -14,7 +14,6 @@ CDlgElementImportDuplicate::CDlgElementImportDuplicate(int templateNumber, QWidg
 
 void CDlgElementImportDuplicate::AttachControls() {
   CDlgElementImportQuestion::AttachControls();
-  ShowAsPlainText(kIdentifier);
   OnClicked({1926, 1927, 1928, 1929, 1930}, &CDlgElementImportDuplicate::OnImportDuplicateRadio);
 }
 

@@ -31,14 +31,8 @@ bool CDlgElementImportQuestion::OnInitDialog() {
 
 void CDlgElementImportQuestion::AttachControls() {
   CVynDialog::AttachControls();
-  ShowAsPlainText(controls_.name);
   static_cast<QLineEdit*>(GetDlgItem(controls_.identifierEdit))
       ->setMaxLength(FieldOf(ElementField::Identifier).width);
-}
-
-/// A name from a file is no markup.
-void CDlgElementImportQuestion::ShowAsPlainText(int id) {
-  static_cast<CVynStatic*>(GetDlgItem(id))->setTextFormat(Qt::PlainText);
 }
 
 void CDlgElementImportQuestion::DoDataExchange(CDataExchange& exchange) {

@@ -37,7 +37,6 @@ class VYN_EXPORT CDlgElementImportQuestion : public CVynDialog {
 
   /// The identifier can be typed only while the last radio button is checked.
   void ApplyRadioRule();
-  void ShowAsPlainText(int id);
 
   QString newIdentifier_;
 

@@ -80,11 +80,14 @@ class VYN_EXPORT CVynRadioButton : public QRadioButton {
   void keyPressEvent(QKeyEvent* event) override;
 };
 
+/// Shows its text as it stands: a name that came from elsewhere is no markup.
 class VYN_EXPORT CVynStatic : public QLabel {
   Q_OBJECT
 
  public:
-  using QLabel::QLabel;
+  explicit CVynStatic(const QString& text, QWidget* parent = nullptr) : QLabel(text, parent) {
+    setTextFormat(Qt::PlainText);
+  }
 };
 
 class VYN_EXPORT CVynEdit : public QLineEdit {

@@ -120,6 +120,18 @@ TEST_P(CometTail, CancelSendsTheOpeningAndUnsetBetasAsUnset) {
   EXPECT_EQ(engine.queries.contains(u"? C.Dusttail.BetaMaxInelm"_s), isBeta && shown == u"1.5");
 }
 
+/// Names come from element files, which may hold anything.
+TEST(CometTailTitle, IsShownAsItStands) {
+  AnsweringEngine engine;
+  engine.values.insert(u"C.JapaneseName"_s, u"<b>太い</b>"_s);
+  CDlgCometTail dialog(u"C"_s, nullptr);
+  dialog.SetCorVyn(&engine, nullptr);
+  ASSERT_TRUE(dialog.Create());
+  auto* title = static_cast<CVynStatic*>(dialog.GetDlgItem(1951));
+  EXPECT_EQ(title->text(), u"<b>太い</b>()"_s);
+  EXPECT_GE(title->sizeHint().width(), title->fontMetrics().horizontalAdvance(title->text()));
+}
+
 TEST_P(CometTail, AVanishedEngineIsAskedAndToldNothing) {
   engine.hasWindow = false;
   Open(u"1"_s);

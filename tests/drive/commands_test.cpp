@@ -215,7 +215,7 @@ TEST(Commands, WhatCannotBeCarriedOutIsRefusedWithLineAndReason) {
       {u"open CDlgSun\nmouse 1001 press 1 1 middle", u"2: one word too many: middle"},
       {u"open CDlgSun\ndrag 1001 1 1 2", u"2: missing argument: Y"},
       {u"open CDlgSun\ncall Apply now", u"2: one word too many: now"},
-      {u"open CDlgMeteorite\ncall GetScript", u"2: no public operation of CDlgMeteorite"},
+      {u"open CDlgMeteorite\ncall Apply", u"2: no public operation of CDlgMeteorite"},
       {u"open CDlgSun\nspin 1001 up", u"2: not a spin button: 1001"},
       {u"open CDlgCometTail", u"1: missing argument: the comet's path"},
       {u"open CDlgSun\nshow", u"2: missing argument: ID"},

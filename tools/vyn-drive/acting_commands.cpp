@@ -5,6 +5,7 @@
 
 #include "core_link/live_dialog.h"
 #include "siblings/controls/controls.h"
+#include "small_bodies/object_list_dialog.h"
 #include "tools/vyn-drive/commands.h"
 #include "tools/vyn-drive/input.h"
 #include "tools/vyn-drive/list_control.h"
@@ -190,9 +191,15 @@ CVynLiveDialog& LiveDialog(const Session& session) {
   throw ScriptError{u"no public operation of "_s + ClassName(dialog)};
 }
 
+/// The lists of objects tell what their Cancel would send.
+int GetScript(const Session& session, QString& text) {
+  auto* list = qobject_cast<CDlgObjectList*>(&session.dialogs.Active());
+  return list != nullptr ? list->GetScript(text) : LiveDialog(session).GetScript(text);
+}
+
 void CallGetScript(const Session& session) {
   QString text;
-  const int result = LiveDialog(session).GetScript(text);
+  const int result = GetScript(session, text);
   Print(u"script: "_s + QString::number(result) + u' ' + Bare(text));
 }
 

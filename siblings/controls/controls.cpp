@@ -1,6 +1,7 @@
 #include "siblings/controls/controls.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 
 #include <QButtonGroup>
@@ -19,6 +20,8 @@ namespace {
 
 constexpr int kRepeatDelayMs = 400;
 constexpr int kRepeatIntervalMs = 60;
+constexpr std::array kListKeys{Qt::Key_Up,  Qt::Key_Down,   Qt::Key_Home,
+                               Qt::Key_End, Qt::Key_PageUp, Qt::Key_PageDown};
 
 QString CssColor(QRgb color) { return QColor::fromRgb(color).name(); }
 
@@ -97,11 +100,10 @@ void CVynEdit::inputMethodEvent(QInputMethodEvent* event) {
 
 void CVynListBox::keyPressEvent(QKeyEvent* event) {
   const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
-  if (isArrow && count() > 0 && selectedItems().isEmpty()) {
-    setCurrentRow(std::max(currentRow(), 0));
-  } else {
-    QListWidget::keyPressEvent(event);
-  }
+  if (!isArrow || !selectedItems().isEmpty()) QListWidget::keyPressEvent(event);
+  // A key that finds the focus already where it leads selects nothing by itself.
+  const bool leadsToRow = std::ranges::count(kListKeys, event->key()) > 0 && count() > 0;
+  if (leadsToRow && selectedItems().isEmpty()) setCurrentRow(std::max(currentRow(), 0));
 }
 
 void CVynRadioButton::keyPressEvent(QKeyEvent* event) {

@@ -108,7 +108,8 @@ class VYN_EXPORT CVynEdit : public QLineEdit {
   bool isBeingTyped_ = false;
 };
 
-/// Without a selection the arrow keys select the row that has the focus, else the first.
+/// Without a selection the arrow keys, and page keys that lead nowhere, select the row that has the
+/// focus, else the first.
 class VYN_EXPORT CVynListBox : public QListWidget {
   Q_OBJECT
 

@@ -59,6 +59,19 @@ TEST_F(ElementFileTest, IdentifiersAreTheSameWithoutRegardToCaseAndBlanks) {
   EXPECT_TRUE(IdentifierKey::OfLine("C\r\n").IsBlank());
 }
 
+TEST_F(ElementFileTest, AFileThatGrowsManyfoldIsStillSearchedRight) {
+  ElementFile file(Write(u"a.eld"_s, MakeRecord('C', u"0"_s)));
+  constexpr int kCount = 3000;
+  for (int i = 1; i < kCount; ++i) {
+    const QString identifier = QString::number(i);
+    ASSERT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(identifier)), -1);
+    ASSERT_EQ(file.WriteElement(-1, MakeObject(identifier, 1)), i);
+  }
+  for (int i = 0; i < kCount; ++i) {
+    EXPECT_EQ(file.SearchObjectFileIndex(IdentifierKey::OfText(QString::number(i))), i);
+  }
+}
+
 TEST_F(ElementFileTest, ReplacingChangesOnlyTheObjectWhateverItsRecordCount) {
   const ElementRecords before = MakeObject(u"a"_s, 2);
   const ElementRecords behind = MakeObject(u"c"_s, 2);

@@ -18,6 +18,12 @@ QByteArray ReadAll(const QString& path) {
   return file.readAll();
 }
 
+QByteArray WithIdentifier(QByteArray record, const QByteArray& identifier) {
+  return record.replace(188, 15, identifier.leftJustified(15, ' '));
+}
+
+QByteArray AsPage(QByteArray record) { return record.replace(0, 1, "+"); }
+
 class ElementFiles : public testing::Test {
  protected:
   void SetUp() override {
@@ -61,6 +67,25 @@ TEST_F(ElementFiles, OfCometsAreEditedImportedAndChanged) {
 TEST_F(ElementFiles, ThatVanishAreRejectedOrRunEmptyDoNoHarm) {
   EXPECT_EQ(Trace(u"comet_file_faults.drive"_s),
             ReadAll(QStringLiteral(VYN_SCRIPTS "/comet_file_faults.trace")));
+}
+
+TEST_F(ElementFiles, WithDoubtfulObjectsAreImportedAsIsAnswered) {
+  const QByteArray comets = ReadAll(QStringLiteral(VYN_COMETS));
+  const auto record = [&](int number) { return comets.mid(number * kRecordSize, kRecordSize); };
+  const QByteArray nameless = WithIdentifier(record(4), {});
+  const QByteArray known = WithIdentifier(record(1), "c/1995 o1");
+  const QByteArray knownPages = known + AsPage(known) + AsPage(known);
+  const QByteArray sinceThisRun = WithIdentifier(record(5), "n1");
+  const QByteArray replaced = record(0).replace(20, 7, "Another");
+  const QByteArray endsEarly = record(6).left(203) + "\r\n";
+  Write(u"doubtful.eld"_s, nameless + nameless + AsPage(nameless) + nameless + nameless +
+                               knownPages + sinceThisRun + replaced + endsEarly +
+                               record(7).replace(415, 2, "\n\n"));
+  EXPECT_EQ(Trace(u"comet_doubtful_import.drive"_s),
+            ReadAll(QStringLiteral(VYN_SCRIPTS "/comet_doubtful_import.trace")));
+  const QByteArray filledUp = record(6).left(203).leftJustified(415, ' ') + "\r\n";
+  EXPECT_EQ(ReadAll(work_.filePath(u"comets.eld"_s)),
+            replaced + knownPages + record(2) + sinceThisRun + filledUp);
 }
 
 TEST_F(ElementFiles, OfMinorPlanetsHaveTheirOwnSettings) {

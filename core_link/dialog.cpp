@@ -202,6 +202,12 @@ void CVynDialog::ShowSlider(int id, int position) {
   static_cast<QSlider*>(GetDlgItem(id))->setValue(position);
 }
 
+void CVynDialog::ShowEdit(int id, const QString& text) {
+  const ExchangeGuard guard(exchanging_);
+  auto* edit = static_cast<QLineEdit*>(GetDlgItem(id));
+  if (edit->text() != text) edit->setText(text);  // setting the same text would move the cursor
+}
+
 void CVynDialog::OnTextChanged(int id, std::function<void()> handler) {
   connect(static_cast<QLineEdit*>(GetDlgItem(id)), &QLineEdit::textChanged, this,
           [this, handler = std::move(handler)] {

@@ -104,7 +104,7 @@ class VYN_EXPORT CVynDialog : public QDialog, public CVynDialogBase {
   }
 
   /// Calls `handler` at every change of the edits' texts, but not while values are shown by
-  /// UpdateData.
+  /// UpdateData or ShowEdit.
   template <class Dialog>
   void OnTextChanged(std::initializer_list<int> ids, void (Dialog::*handler)()) {
     for (const int id : ids) {
@@ -112,6 +112,8 @@ class VYN_EXPORT CVynDialog : public QDialog, public CVynDialogBase {
     }
   }
   void OnTextChanged(int id, std::function<void()> handler);
+  /// Shows a text in one edit, quietly as UpdateData does, and leaves what is typed in the others.
+  void ShowEdit(int id, const QString& text);
 
   /// Calls `handler` with the position when the user moves a slider, but not while it is placed by
   /// ShowSlider.

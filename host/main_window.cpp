@@ -1,7 +1,10 @@
 #include "host/main_window.h"
 
+#include <stdexcept>
+
 #include <QApplication>
 #include <QMenu>
+#include <QMessageBox>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
@@ -61,7 +64,7 @@ CVynDialog* MainWindow::OpenDialog(const DialogEntry& entry) {
   QPointer<CVynDialog>& dialog = dialogs_[entry.templateNumber];
   if (BringToFront(dialog)) return dialog;
   dialog = Open(entry.make(&watched_, nullptr, this));
-  if (entry.templateNumber == kCometTemplate) OfferCometMenuIn(*dialog);
+  if (dialog != nullptr && entry.templateNumber == kCometTemplate) OfferCometMenuIn(*dialog);
   return dialog;
 }
 
@@ -79,7 +82,14 @@ CVynDialog* MainWindow::Open(CVynDialog* dialog) {
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   connect(dialog, &CVynDialog::helpRequested, this, &MainWindow::ShowHelp);
   connect(dialog, &QDialog::finished, this, [this] { Send(u"Show Sky"_s); });
-  dialog->Create();
+  try {
+    dialog->Create();
+  } catch (const std::invalid_argument&) {
+    QMessageBox::critical(this, dialog->windowTitle(),
+                          u"エンジンの返答が矛盾しているため開けません。"_s);
+    delete dialog;
+    return nullptr;
+  }
   return dialog;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core_link/number_text.h"
 #include "core_link/reply.h"
 #include "core_link/statement.h"
 #include "core_link/vector_step.h"
@@ -58,9 +59,9 @@ void CDlgPlanetGrid::AttachControls() {
   OnTextChanged({grid_.vectorMultiplier.edit}, &CDlgPlanetGrid::OnEnChangePlnEditVectorMultiplier);
   OnSpin(grid_.magnification.spin, [this](int delta) { OnDeltaposDspPlnSpinRate(delta); });
   OnSpin(grid_.vectorSpan.spin,
-         [this](int delta) { OnDeltaposSpinVector(vectorSpanDays_, delta); });
+         [this](int delta) { OnDeltaposSpinVector(grid_.vectorSpan, delta); });
   OnSpin(grid_.vectorMultiplier.spin,
-         [this](int delta) { OnDeltaposSpinVector(vectorMultiplier_, delta); });
+         [this](int delta) { OnDeltaposSpinVector(grid_.vectorMultiplier, delta); });
   AttachColorButton(grid_.colorButton, &CDlgPlanetGrid::OnButtonFont);
 }
 
@@ -288,15 +289,6 @@ void CDlgPlanetGrid::SetColumn(GridFeature feature, bool on) {
   Apply();
 }
 
-void CDlgPlanetGrid::SetLanguage(int language) {
-  UpdateData(true);
-  for (int body = 0; body < static_cast<int>(grid_.bodies.size()); ++body) {
-    SetValue(grid_.Control(Japanese, body), language);
-  }
-  UpdateData(false);
-  Apply();
-}
-
 void CDlgPlanetGrid::OnVectorShow() {
   EnableDisableVector();
   Apply();
@@ -305,9 +297,8 @@ void CDlgPlanetGrid::OnVectorShow() {
 void CDlgPlanetGrid::OnEnChangePlnEditRate() {
   const QString text = EditText(grid_.magnification.edit);
   if (!isReady_ || text.isEmpty()) return;
-  UpdateData(true);
-  magnification_ = std::clamp(reply::ToInt(text), minMagnification_, maxMagnification_);
-  UpdateData(false);
+  const int shown = std::clamp(reply::ToInt(text), minMagnification_, maxMagnification_);
+  ShowEdit(grid_.magnification.edit, QString::number(shown));
   Apply();
 }
 
@@ -318,10 +309,9 @@ void CDlgPlanetGrid::OnDeltaposDspPlnSpinRate(int delta) {
   edit->setText(QString::number(std::clamp(stepped, minMagnification_, maxMagnification_)));
 }
 
-void CDlgPlanetGrid::OnDeltaposSpinVector(double& value, int delta) {
-  UpdateData(true);
-  value = StepVectorValue(value, delta);
-  UpdateData(false);
+void CDlgPlanetGrid::OnDeltaposSpinVector(const GridNumber& number, int delta) {
+  const double stepped = StepVectorValue(reply::ToDouble(EditText(number.edit)), delta);
+  ShowEdit(number.edit, ShortNumberText(stepped, kNumberChars));
   Apply();
 }
 

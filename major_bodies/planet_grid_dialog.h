@@ -95,10 +95,8 @@ class VYN_EXPORT CDlgPlanetGrid : public CVynLiveDialog {
   void OnCheckBody(int body);
   void OnPlnCheckBodyOrbits(int body);
 
-  /// Sets a whole column on or off, or the language of all names (0 Japanese, 1 English), and
-  /// applies it.
+  /// Sets a whole column on or off and applies it. A language is chosen by its column's "on".
   void SetColumn(GridFeature feature, bool on);
-  void SetLanguage(int language);
 
   // The column buttons by the names that hosts know: "...On" and "...Off" of each.
 #define VYN_GRID_COLUMN_BUTTONS(X)                                                          \
@@ -115,15 +113,15 @@ class VYN_EXPORT CDlgPlanetGrid : public CVynLiveDialog {
   void On##Button##Off() { SetColumn(GridFeature::Feature, false); }
   VYN_GRID_COLUMN_BUTTONS(VYN_DECLARE_COLUMN_BUTTONS)
 #undef VYN_DECLARE_COLUMN_BUTTONS
-  void OnButtonJp() { SetLanguage(0); }
-  void OnButtonEng() { SetLanguage(1); }
+  void OnButtonJp() { SetColumn(GridFeature::Japanese, true); }
+  void OnButtonEng() { SetColumn(GridFeature::English, true); }
 
   void OnVectorShow();
   void OnEnChangePlnEditRate();
   void OnDeltaposDspPlnSpinRate(int delta);
   void OnEnChangePlnEditVectorSpandays() { Apply(); }
   void OnEnChangePlnEditVectorMultiplier() { Apply(); }
-  void OnDeltaposSpinVector(double& value, int delta);
+  void OnDeltaposSpinVector(const GridNumber& number, int delta);
   void OnButtonFont();
 
  private:

@@ -89,18 +89,19 @@ void CDlgSat::Init() {
 }
 
 void CDlgSat::ReadSatellites() {
-  records_.assign(std::max(0, GetInt(QStringLiteral("solar.planet.satellite.count"))), {});
-  paths_.assign(records_.size(), {});
+  const int total = GetInt(QStringLiteral("solar.planet.satellite.count"));
+  records_.clear();
+  paths_.clear();
   satelliteCounts_.clear();
-  size_t next = 0;
   for (int body = 0; body < static_cast<int>(std::size(kBodies)); ++body) {
     const QStringView bodyPath = kBodies[body].path;
     const int count = GetInt(QString(u"solar." + bodyPath + u".satellite.count"));
     satelliteCounts_.push_back(count);
-    for (int number = 1; number <= count; ++number, ++next) {
-      if (next >= records_.size()) throw std::invalid_argument("more satellites than counted");
-      paths_[next] = SatellitePath(bodyPath, number);
-      records_[next] = ReadSatellite(body, paths_[next]);
+    for (int number = 1; number <= count; ++number) {
+      if (std::ssize(records_) >= total)
+        throw std::invalid_argument("more satellites than counted");
+      paths_.push_back(SatellitePath(bodyPath, number));
+      records_.push_back(ReadSatellite(body, paths_.back()));
     }
   }
 }
@@ -153,7 +154,6 @@ void CDlgSat::WriteScript(QString& out) {
   for (size_t i = 0; i < records_.size(); ++i) {
     const CCheckSatellite& record = records_[i];
     const QString& path = paths_[i];
-    if (path.isEmpty()) continue;
     const auto write = [&](QStringView property, bool on) {
       out += path + property + (on ? u" = TRUE;" : u" = FALSE;");
     };

@@ -156,6 +156,9 @@ void CSatelliteListBox::SetRows(const std::vector<int>& recordIndexes) {
   }
 }
 
+/// The current row alone is not enough: the list gets one with the focus, nothing being selected.
+int CSatelliteListBox::SelectedRow() const { return selectedItems().isEmpty() ? -1 : currentRow(); }
+
 CCheckSatellite& CSatelliteListBox::RecordOfRow(int row) {
   return (*records_)[item(row)->data(Qt::UserRole).toInt()];
 }
@@ -207,14 +210,15 @@ void CSatelliteListBox::mouseDoubleClickEvent(QMouseEvent* event) {
   }
 }
 
+/// A toggle key that changes nothing does not fall through to the search for a name.
 void CSatelliteListBox::keyPressEvent(QKeyEvent* event) {
   const bool isPlain = !(event->modifiers() & (Qt::AltModifier | Qt::ControlModifier));
-  for (const auto& [key, toggle] : kKeys) {
-    if (isPlain && event->key() == key && currentRow() >= 0 && Toggle(currentRow(), toggle)) {
-      return;
-    }
+  const auto found = std::ranges::find(kKeys, event->key(), &ToggleKey::key);
+  if (isPlain && found != std::end(kKeys) && SelectedRow() >= 0) {
+    Toggle(SelectedRow(), found->toggle);
+  } else {
+    CVynListBox::keyPressEvent(event);
   }
-  CVynListBox::keyPressEvent(event);
 }
 
 }  // namespace vyn

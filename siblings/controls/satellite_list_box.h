@@ -43,6 +43,7 @@ class VYN_EXPORT CSatelliteListBox final : public CVynListBox {
   /// Shows these records, by index, one a row.
   void SetRows(const std::vector<int>& recordIndexes);
   int RowCount() const { return count(); }
+  int SelectedRow() const;  ///< -1 where none is selected
   CCheckSatellite& RecordOfRow(int row);
 
   /// The toggle under the heading with this control number.

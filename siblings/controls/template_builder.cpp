@@ -278,9 +278,11 @@ class Builder {
   static QWidget* NewButton(const TemplateItem& item, QWidget* parent) {
     auto* button = new CVynButton(item.text, parent);
     if (item.compact) {
+      // Whole characters, so that an "on" and the "off" below it are equally wide.
       constexpr int kButtonMargin = 8;
-      const int textWidth = button->fontMetrics().horizontalAdvance(item.text);
-      button->setFixedWidth(textWidth + 2 * kButtonMargin);
+      const QFontMetrics metrics = button->fontMetrics();
+      const int chars = metrics.horizontalAdvance(item.text) / metrics.averageCharWidth() + 1;
+      button->setFixedWidth(WidthOf(button, chars) + 2 * kButtonMargin);
       button->setAutoDefault(false);
     }
     if (item.widthChars > 0) button->setFixedWidth(WidthOf(button, item.widthChars));

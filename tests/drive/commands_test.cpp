@@ -202,6 +202,8 @@ struct Refusal {
 TEST(Commands, WhatCannotBeCarriedOutIsRefusedWithLineAndReason) {
   const Refusal refusals[] = {
       {u"open CDlgSat\ncells 1507 -1 1", u"2: negative: -1 (FIRST)"},
+      {u"set solar.planet.mars.satellite.count 1\nopen CDlgSat",
+       u"2: the dialog does not open: more satellites than counted"},
       {u"engine sky\nopen CDlgSat\ncell 1507 464 1508", u"3: no such row: 464"},
       {u"engine sky\nopen CDlgSat\ncell 1507 0 1", u"3: no such column: 1"},
       {u"engine sky\nopen CDlgSat\nheaders 1507", u"3: the control has no headings"},

@@ -23,6 +23,7 @@
 #include "resources/dialog_template.h"
 #include "siblings/controls/object_list_box.h"
 #include "siblings/registry/registry.h"
+#include "tests/core_link/person.h"
 
 namespace vyn {
 namespace {
@@ -97,6 +98,12 @@ TEST_F(MainWindowTest, EveryDialogOpensOnceAndHasHelp) {
     Click(*dialog, kHelpButton);
     EXPECT_EQ(window_->findChildren<QDialog*>().size(), windows + 1);
   }
+}
+
+TEST_F(MainWindowTest, EngineThatContradictsItselfOpensNoDialog) {
+  window_->Send(u"solar.planet.satellite.count = 1"_s);
+  const Person person({[](QWidget* box) { box->close(); }});
+  EXPECT_EQ(window_->OpenDialog(*FindDialog(13003)), nullptr);
 }
 
 TEST_F(MainWindowTest, AnswersWhatADialogColours) {

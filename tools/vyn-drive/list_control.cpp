@@ -72,9 +72,7 @@ class SatelliteList final : public ListControl {
   explicit SatelliteList(CSatelliteListBox& list) : list_(list) {}
 
   int RowCount() const override { return list_.RowCount(); }
-  int SelectedRow() const override {
-    return list_.selectedItems().isEmpty() ? -1 : list_.currentRow();
-  }
+  int SelectedRow() const override { return list_.SelectedRow(); }
   QString RowText(int row) const override { return list_.RecordOfRow(row).name; }
   void Choose(int row) override {
     ShowRow(row);

@@ -1,6 +1,7 @@
 #include "tools/vyn-drive/open_dialogs.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 #include "core_link/window_message.h"
 #include "tools/vyn-drive/input.h"
@@ -14,6 +15,15 @@ using namespace Qt::StringLiterals;
 
 void ReportClosing(const QString& className, int result) {
   Print(u"closed: "_s + className + (result == QDialog::Accepted ? u" ok"_s : u" cancel"_s));
+}
+
+/// A dialog refuses an engine whose figures contradict each other by an exception.
+bool Create(CVynDialog& dialog) {
+  try {
+    return dialog.Create();
+  } catch (const std::invalid_argument& error) {
+    throw ScriptError{u"the dialog does not open: "_s + QString::fromUtf8(error.what())};
+  }
 }
 
 }  // namespace
@@ -30,7 +40,7 @@ void OpenDialogs::Open(const QString& className, CCorVyn* commandHandle, CCorVyn
                        Arguments& words) {
   CVynDialog& dialog =
       *owned_.emplace_back(MakeDialog(className, {commandHandle, secondHandle, &parent_}, words));
-  if (!dialog.Create()) return;
+  if (!Create(dialog)) return;
   Print(u"opened: "_s + className + u' ' + Quoted(dialog.windowTitle()));
   Add(dialog);
 }

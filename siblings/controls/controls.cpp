@@ -88,6 +88,12 @@ void CVynButton::paintEvent(QPaintEvent* event) {
       isEnabled() ? picture_ : style()->generatedIconPixmap(QIcon::Disabled, picture_, &option));
 }
 
+bool CVynStatic::event(QEvent* event) {
+  if (event->type() != QEvent::Shortcut || buddy() == nullptr) return QLabel::event(event);
+  buddy()->setFocus(Qt::ShortcutFocusReason);
+  return true;
+}
+
 void CVynEdit::keyPressEvent(QKeyEvent* event) {
   const QScopedValueRollback typing(isBeingTyped_, !event->matches(QKeySequence::Paste));
   QLineEdit::keyPressEvent(event);

@@ -80,7 +80,8 @@ class VYN_EXPORT CVynRadioButton : public QRadioButton {
   void keyPressEvent(QKeyEvent* event) override;
 };
 
-/// Shows its text as it stands: a name that came from elsewhere is no markup.
+/// Shows its text as it stands: a name that came from elsewhere is no markup. Its mnemonic gives
+/// the buddy the focus and nothing more, also to a check box.
 class VYN_EXPORT CVynStatic : public QLabel {
   Q_OBJECT
 
@@ -88,6 +89,9 @@ class VYN_EXPORT CVynStatic : public QLabel {
   explicit CVynStatic(const QString& text, QWidget* parent = nullptr) : QLabel(text, parent) {
     setTextFormat(Qt::PlainText);
   }
+
+ protected:
+  bool event(QEvent* event) override;
 };
 
 class VYN_EXPORT CVynEdit : public QLineEdit {

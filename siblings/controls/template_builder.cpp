@@ -281,9 +281,8 @@ class Builder {
       // Whole characters, so that an "on" and the "off" below it are equally wide.
       constexpr int kButtonMargin = 8;
       const QFontMetrics metrics = button->fontMetrics();
-      const int chars = metrics.horizontalAdvance(item.text) / metrics.averageCharWidth() + 1;
+      const int chars = (metrics.horizontalAdvance(item.text) - 1) / metrics.averageCharWidth() + 1;
       button->setFixedWidth(WidthOf(button, chars) + 2 * kButtonMargin);
-      button->setAutoDefault(false);
     }
     if (item.widthChars > 0) button->setFixedWidth(WidthOf(button, item.widthChars));
     return button;

@@ -25,11 +25,21 @@ constexpr double kCutFraction = 0.0025;
 /// So many values, spread evenly, tell where to cut.
 constexpr std::size_t kMaxSamples = 1 << 20;
 
+/// The bytes up to the end of their last block: the library reads whole blocks, beyond the end of a
+/// file that was cut off.
+QByteArray FilledUp(const QByteArray& file) {
+  constexpr qsizetype kBlockSize = 2880;
+  const qsizetype blocks = (file.size() + kBlockSize - 1) / kBlockSize;
+  return file.size() == blocks * kBlockSize ? file : file.leftJustified(blocks * kBlockSize, '\0');
+}
+
 /// A file held in memory, open for reading.
 class FitsFile {
  public:
   explicit FitsFile(const QByteArray& file)
-      : bytes_(const_cast<char*>(file.constData())), size_(static_cast<std::size_t>(file.size())) {
+      : blocks_(FilledUp(file)),
+        bytes_(const_cast<char*>(blocks_.constData())),
+        size_(static_cast<std::size_t>(blocks_.size())) {
     fits_open_memfile(&file_, "memory", READONLY, &bytes_, &size_, 0, nullptr, &status);
   }
   ~FitsFile() {
@@ -46,6 +56,7 @@ class FitsFile {
 
  private:
   fitsfile* file_ = nullptr;
+  QByteArray blocks_;
   void* bytes_;
   std::size_t size_;
 };

@@ -3,7 +3,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QTemporaryDir>
 
 #include "core_link/live_dialog.h"
 #include "engine/reference_engine.h"
@@ -14,7 +13,6 @@
 #include "major_bodies/sun_dialog.h"
 #include "small_bodies/dust_trail_dialog.h"
 #include "small_bodies/meteorite_dialog.h"
-#include "siblings/registry/registry.h"
 
 namespace vyn {
 namespace {
@@ -113,12 +111,3 @@ BENCHMARK(OpeningOf300Satellites)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace vyn
-
-int main(int argc, char** argv) {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  const QTemporaryDir settings;
-  vyn::CRegistry::UseFile(settings.filePath(QStringLiteral("settings.ini")));
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}

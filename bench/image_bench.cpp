@@ -14,7 +14,6 @@
 #include "image_data/corona_dialog.h"
 #include "image_data/sunspot_dialog.h"
 #include "siblings/images/image_file.h"
-#include "siblings/registry/registry.h"
 
 namespace vyn {
 namespace {
@@ -250,12 +249,3 @@ BENCHMARK(DragAmong1000Spots)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace vyn
-
-int main(int argc, char** argv) {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  const QTemporaryDir settings;
-  vyn::CRegistry::UseFile(settings.filePath(QStringLiteral("settings.ini")));
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}

@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QScrollBar>
-#include <QTemporaryDir>
 
 #include "bench/large_file.h"
 #include "engine/element_table.h"
@@ -16,7 +15,6 @@
 #include "engine/watched_cor_vyn.h"
 #include "resources/element_class_controls.h"
 #include "siblings/controls/object_list_box.h"
-#include "siblings/registry/registry.h"
 #include "small_bodies/minor_planet_dialog.h"
 
 namespace vyn {
@@ -211,12 +209,3 @@ BENCHMARK_CAPTURE(Query, Status, u"Solar.MinorPlanet.No12%1.Visible = FALSE"_s,
 
 }  // namespace
 }  // namespace vyn
-
-int main(int argc, char** argv) {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  const QTemporaryDir settings;
-  vyn::CRegistry::UseFile(settings.filePath(QStringLiteral("settings.ini")));
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}

@@ -51,6 +51,7 @@ class FitsFile {
 
   fitsfile* Handle() const { return file_; }
   bool IsGood() const { return status == 0; }
+  qint64 Size() const { return blocks_.size(); }
 
   int status = 0;
 
@@ -115,7 +116,8 @@ std::optional<FitsShape> FindImage(FitsFile& file, const QByteArray& bytes) {
 bool IsAllowed(FitsFile& file, const FitsShape& shape, qint64 fileSize) {
   if (!IsImageSizeAllowed(shape.size, shape.planes * static_cast<int>(sizeof(float)))) return false;
   const PartPlace place = PlaceOf(file);
-  if (!file.IsGood()) return false;
+  // The end lies further than the pixels tell where the header speaks of parameters before them.
+  if (!file.IsGood() || place.end > file.Size()) return false;
   int status = 0;
   if (fits_is_compressed_image(file.Handle(), &status)) {
     return place.end <= fileSize && AreTilesSound(file.Handle(), shape.planes, fileSize);

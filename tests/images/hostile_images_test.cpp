@@ -185,6 +185,13 @@ TEST(FitsAxes, TheImageIsInTheFirstTwoOrThree) {
   EXPECT_TRUE(load({3, 2, 3}, 0).isNull()) << "without data";
 }
 
+TEST(FitsAxes, ParametersBeforeTheImageDoNotMoveItOutOfTheFile) {
+  std::vector<QByteArray> cards = Shape(16, {3, 2});
+  cards.push_back(IntCard("PCOUNT", 5000));
+  cards.push_back(IntCard("GCOUNT", 1));
+  EXPECT_TRUE(LoadBytes(Fits(cards, BigEndian<qint16>({1, 2, 3, 4, 5, 6}))).isNull());
+}
+
 TEST(FitsValues, BlanksAndWhatIsNoNumberAreBlack) {
   std::vector<QByteArray> cards = Shape(16, {4, 1});
   cards.push_back(IntCard("BLANK", -32768));

@@ -9,6 +9,7 @@
 
 #include <fitsio.h>
 
+#include "siblings/images/fits_header.h"
 #include "siblings/images/fits_tiles.h"
 #include "siblings/images/image_decoders.h"
 #include "siblings/images/image_limits.h"

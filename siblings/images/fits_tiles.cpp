@@ -216,37 +216,7 @@ bool IsTileSound(fitsfile* file, qint64 tile, qint64 fileSize) {
   return isThere;
 }
 
-constexpr int kCardSize = 80;
-
-/// What the library divides by, in cards of the kinds ZTILE1, ZVAL1: a block's length is a ZVAL.
-constexpr std::array kDivisors{"ZNAXIS", "ZTILE", "ZVAL"};
-
-/// A card that tells a divisor has to tell a whole number above 0, at the usual place.
-bool IsCardSound(const QByteArray& card) {
-  const auto tells = [&card](const char* key) { return card.startsWith(key); };
-  const bool isHidden =
-      card.startsWith("HIERARCH") &&
-      std::ranges::any_of(kDivisors, [&card](const char* key) { return card.contains(key); });
-  if (isHidden) return false;
-  if (std::ranges::none_of(kDivisors, tells)) return true;
-  const qsizetype slash = card.indexOf('/');
-  const QByteArray text = card.first(slash >= 9 ? slash : card.size()).sliced(9).trimmed();
-  bool isNumber = false;
-  const qlonglong length = text.toLongLong(&isNumber);
-  const bool isCountOfAxes = card.startsWith("ZNAXIS ");
-  return isNumber && length >= 1 && (!isCountOfAxes || length <= MAX_COMPRESS_DIM);
-}
-
 }  // namespace
-
-bool IsHeaderSound(QByteArrayView file, qint64 start) {
-  for (; start + kCardSize <= file.size(); start += kCardSize) {
-    const QByteArray card = file.sliced(start, kCardSize).toByteArray().toUpper();
-    if (card.startsWith("END     ")) return true;
-    if (!IsCardSound(card)) return false;
-  }
-  return false;
-}
 
 bool AreTilesSound(fitsfile* file, int planes, qint64 fileSize) {
   const FITSfile& image = *file->Fptr;

@@ -3,14 +3,9 @@
 
 #include <fitsio.h>
 
-#include <QByteArrayView>
 #include <QtGlobal>
 
 namespace vyn {
-
-/// Whether CFITSIO can go to the part of the file whose header begins at `start`: it divides by the
-/// lengths of tiles as it reads them.
-bool IsHeaderSound(QByteArrayView file, qint64 start);
 
 /// Whether CFITSIO can decode the first planes of the compressed image at which the file stands. It
 /// trusts what it decodes: streams that are damaged make it read and write outside of its memory.

@@ -192,6 +192,25 @@ TEST(FitsAxes, ParametersBeforeTheImageDoNotMoveItOutOfTheFile) {
   EXPECT_TRUE(LoadBytes(Fits(cards, BigEndian<qint16>({1, 2, 3, 4, 5, 6}))).isNull());
 }
 
+/// Texts as long as these end a program that reads them as whole numbers.
+TEST(FitsCards, NumbersAreNumbers) {
+  const QByteArray data = BigEndian<qint16>({1, 2, 3, 4, 5, 6});
+  const auto load = [&data](const QByteArray& card) {
+    std::vector<QByteArray> cards = Shape(16, {3, 2});
+    cards.push_back(card);
+    return LoadBytes(Fits(cards, data));
+  };
+  const QByteArray text = "= 'no number, and no end of the quotation that it begins with";
+  for (const char* key : {"BLANK   ", "PCOUNT  ", "BZERO   ", "NAXIS3  "}) {
+    EXPECT_TRUE(load(key + text).isNull()) << key;
+  }
+  EXPECT_TRUE(load("HIERARCH BLANK " + text).isNull());
+  for (const char* card : {"BZERO   = 1.5D2 / an exponent", "BLANK   =", "OBJECT  = 'BLANK'",
+                           "HIERARCH SITE NAXIS = 'of the telescope'"}) {
+    EXPECT_FALSE(load(card).isNull()) << card;
+  }
+}
+
 TEST(FitsValues, BlanksAndWhatIsNoNumberAreBlack) {
   std::vector<QByteArray> cards = Shape(16, {4, 1});
   cards.push_back(IntCard("BLANK", -32768));

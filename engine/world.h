@@ -104,7 +104,8 @@ class World {
   void AssignElementFact(const QString& path, const QString& value);
   void AssignFile(const QString& path, const QString& value);
   void CarryOut(const Object& object, const QString& value);
-  void ForgetObjects(const ElementClass& elements);
+  void AddObjects(ElementClass& elements);
+  void ForgetObjects(const ElementClass& elements, int kept);
   void InitElements(QStringView path);
   void EndPut(const QString& path);
 

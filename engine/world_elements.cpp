@@ -36,7 +36,7 @@ void World::AssignElementFact(const QString& path, const QString& value) {
   ElementClass* elements = ElementsOf(path);
   if (SameWord(word, u"File")) return AssignFile(path, value);
   if (SameWord(word, u"DataAdd")) {
-    if (elements != nullptr && reply::ToBool(value)) elements->AddObjects();
+    if (elements != nullptr && reply::ToBool(value)) AddObjects(*elements);
     return;
   }
   if (SwitchColumn* column = ColumnOfMembers(path)) return column->SetMembers(value);
@@ -54,16 +54,23 @@ void World::AssignFile(const QString& path, const QString& value) {
 
 bool World::LoadElements(ElementKind kind, const QString& file) {
   if (!Elements(kind).Load(file)) return false;
-  ForgetObjects(Elements(kind));
+  ForgetObjects(Elements(kind), 0);
   return true;
 }
 
-/// Values of single objects were those of the file's objects before.
-void World::ForgetObjects(const ElementClass& elements) {
+/// A state brought back after an object was removed speaks of one more than there are: what it says
+/// of that number is not for the next object that gets it.
+void World::AddObjects(ElementClass& elements) {
+  ForgetObjects(elements, elements.Count());
+  elements.AddObjects();
+}
+
+/// The values of single objects behind the first `kept` were those of other objects.
+void World::ForgetObjects(const ElementClass& elements, int kept) {
   PropertyNode* classNode = tree_.Find(elements.Path());
   if (classNode == nullptr) return;
   for (PropertyNode* child : classNode->children) {
-    if (!ObjectNumber(child->Word())) continue;
+    if (ObjectNumber(child->Word()).value_or(0) <= kept) continue;
     tree_.ForEachNode(*child, [this](PropertyNode& node) {
       if (!node.isPut) tree_.ClearValue(node);
     });

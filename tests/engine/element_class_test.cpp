@@ -142,6 +142,21 @@ TEST_F(ElementClassTest, DataCommandsReadAgainAndKeepSwitches) {
   EXPECT_EQ(Ask(u"? Solar.Comet.No1.ID; ? Solar.Comet.No3.Orbit"_s), Identifier(1) + u"TRUE");
 }
 
+TEST_F(ElementClassTest, AnAddedObjectTakesNothingOfAnotherWithItsNumber) {
+  engine_.SetProperty(u"Solar.Comet.No4.Memo"_s, u"mine"_s);
+  Ask(u"Solar.Comet.No4.Individual = true"_s);
+  const QString script = Ask(u"? Solar.Comet.Status"_s);
+  Write(1, 4);
+  Ask(u"Solar.Comet.No1.DataRemove = True"_s);
+  Ask(u"Solar.Comet.Init()"_s);
+  Ask(script);
+  Write(1, 5);
+  Ask(u"Solar.Comet.DataAdd = True"_s);
+  EXPECT_EQ(Ask(u"? Solar.Comet.No4.ID; ? Solar.Comet.No4.Individual; ? Solar.Comet.No4"_s),
+            Identifier(4) + u"FALSEFALSE");
+  EXPECT_EQ(Ask(u"? Solar.Comet.No3.Memo; ? Solar.Comet.No4.Memo"_s), u"mine"_s);
+}
+
 TEST_F(ElementClassTest, ARefusedFileLeavesTheOldOne) {
   engine_.SetProperty(u"Solar.Comet.No1.Date"_s, u"TRUE"_s);
   Ask(u"Solar.Comet.File = \"%1\""_s.arg(folder_.filePath(u"none.eld"_s)));

@@ -33,6 +33,8 @@ class ElementFiles : public testing::Test {
     };
     Write(u"comets.eld"_s, records(0, 3));
     Write(u"more.eld"_s, records(1, 1) + records(4, 2));
+    Write(u"nameless.eld"_s, records(0, 2) + WithIdentifier(records(3, 1), {}) + records(2, 1));
+    Write(u"twice.eld"_s, records(6, 1) + records(6, 1));
     Write(u"empty.eld"_s, {});
     Write(u"broken.eld"_s, "These are no elements.\r\n");
   }
@@ -86,6 +88,11 @@ TEST_F(ElementFiles, WithDoubtfulObjectsAreImportedAsIsAnswered) {
   const QByteArray filledUp = record(6).left(203).leftJustified(415, ' ') + "\r\n";
   EXPECT_EQ(ReadAll(work_.filePath(u"comets.eld"_s)),
             replaced + knownPages + record(2) + sinceThisRun + filledUp);
+}
+
+TEST_F(ElementFiles, AreImportedAsTheAnswersSay) {
+  EXPECT_EQ(Trace(u"comet_import_answers.drive"_s),
+            ReadAll(QStringLiteral(VYN_SCRIPTS "/comet_import_answers.trace")));
 }
 
 TEST_F(ElementFiles, OfMinorPlanetsHaveTheirOwnSettings) {

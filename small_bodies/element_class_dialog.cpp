@@ -143,8 +143,20 @@ void CDlgElementClass::InitOrbitalTypes() {
 
 void CDlgElementClass::ShowTypes(TypeList& typeList, std::vector<tagLimitTypeInfo> types) {
   typeList.types = std::move(types);
+  KeepRoomForNames(typeList);
   typeList.list->SetValueCountTotal(static_cast<qint64>(typeList.types.size()), 0);
   typeList.list->Update();
+}
+
+/// On a narrow screen a list gives way to its longest name only; no name makes it wider than it
+/// comes up on a wide one.
+void CDlgElementClass::KeepRoomForNames(const TypeList& typeList) {
+  CVynListBoxAObj& list = *typeList.list;
+  int widest = 0;
+  for (const tagLimitTypeInfo& type : typeList.types) {
+    widest = std::max(widest, list.fontMetrics().horizontalAdvance(type.displayName));
+  }
+  list.setMinimumWidth(std::min(list.minimumSizeHint().width() + widest, list.sizeHint().width()));
 }
 
 CDlgElementClass::TypeList& CDlgElementClass::Types(int control) {

@@ -67,6 +67,7 @@ class VYN_EXPORT CDlgElementClass : public CDlgObjectList {
   virtual void InitDisplay() {}
   virtual void InitMoreTypes() {}
   void ShowTypes(TypeList& typeList, std::vector<tagLimitTypeInfo> types);
+  static void KeepRoomForNames(const TypeList& typeList);
   TypeList& Types(int control);
 
   // The lists.

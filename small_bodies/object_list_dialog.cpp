@@ -97,17 +97,30 @@ void CDlgObjectList::DeclareColumns() {
     }
   }
   objectList_->CalcLayout();
+  KeepRoomForTitles();
   for (int i = 0; i < count; ++i) objectList_->GetHeaderDataItemPtr(i)->text = ColumnTitle(i);
   StretchObjectColumns();
 }
 
-void CDlgObjectList::StretchObjectColumns() {
+std::vector<quint32> CDlgObjectList::StretchingColumns() const {
   std::vector<quint32> ids;
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     if (columns_[i].stretches) ids.push_back(static_cast<quint32>(i));
   }
-  StretchColumns(*objectList_, ids);
+  return ids;
 }
+
+/// Columns that share the spare width evenly need, each of them, what the widest needs.
+void CDlgObjectList::KeepRoomForTitles() {
+  int widest = 0, missing = 0;
+  const std::vector<quint32> ids = StretchingColumns();
+  const auto width = [this](quint32 id) { return objectList_->GetHeaderDataItemPtr(id)->width; };
+  for (const quint32 id : ids) widest = std::max(widest, width(id));
+  for (const quint32 id : ids) missing += widest - width(id);
+  objectList_->setMinimumWidth(objectList_->minimumSizeHint().width() + missing);
+}
+
+void CDlgObjectList::StretchObjectColumns() { StretchColumns(*objectList_, StretchingColumns()); }
 
 void CDlgObjectList::StretchColumns(CVynListBoxAObj& list,
                                     const std::vector<quint32>& stretchingIds) {

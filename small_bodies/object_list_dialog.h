@@ -73,6 +73,8 @@ class VYN_EXPORT CDlgObjectList : public CVynDialog {
 
  private:
   void DeclareColumns();
+  std::vector<quint32> StretchingColumns() const;
+  void KeepRoomForTitles();
   void StretchObjectColumns();
   void FillCell(int column, const QString& objectPath, tagDataItem& cell);
   bool IsOn(const ObjectColumn& column, const QString& path);

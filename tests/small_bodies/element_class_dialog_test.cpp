@@ -135,6 +135,16 @@ TEST_P(ElementClassDialog, NamesShareWhatTheOthersLeaveAlsoWhenResized) {
   EXPECT_EQ(List().GetRegFontDefault(1).faceName, u"ＭＳ ゴシック");
 }
 
+TEST_P(ElementClassDialog, TitlesOfNamesFitHoweverNarrow) {
+  Open();
+  dialog->resize(1, dialog->height());
+  QCoreApplication::processEvents();
+  for (const int name : {1, 2}) {
+    const tagHeaderDataItem& column = List().Columns()[static_cast<std::size_t>(name)];
+    EXPECT_GE(column.width, List().fontMetrics().horizontalAdvance(column.text) + column.padding);
+  }
+}
+
 TEST_P(ElementClassDialog, AsksForTheRowsInViewAndNothingElse) {
   Open();
   List().ScrollTo(39);
@@ -365,6 +375,22 @@ TEST_P(ElementClassDialog, OrbitalTypesStretchTheirNamesAndSkipTheNameless) {
   EXPECT_EQ(row.Column(0).Cell(0).value, 1);
   EXPECT_EQ(row.Column(1).Cell(0).text, u"<不明>");
   EXPECT_EQ(types.TitleRect(0).width() + types.TitleRect(1).width(), types.GetHeaderAreaWidth());
+}
+
+TEST_P(ElementClassDialog, TypeNamesFitHoweverNarrowUnlessTheyAreEndless) {
+  const QString name = u"火星横断小惑星群"_s;
+  Set(c.path + u".OrbitalType.#1.LocalName", name);
+  Open();
+  dialog->resize(1, dialog->height());
+  QCoreApplication::processEvents();
+  const auto& types = Item<CVynListBoxAObj>(c.id.OrbitalTypeList());
+  EXPECT_GE(types.TitleRect(1).width(),
+            types.fontMetrics().horizontalAdvance(name) + types.Columns()[1].padding);
+  dialog.reset();
+  Set(c.path + u".OrbitalType.#1.LocalName", name.repeated(20));
+  Open();
+  const auto& endless = Item<CVynListBoxAObj>(c.id.OrbitalTypeList());
+  EXPECT_LE(endless.minimumWidth(), endless.sizeHint().width());
 }
 
 TEST_P(ElementClassDialog, TakesNoCloseBoxWhileAnImportRuns) {

@@ -109,4 +109,13 @@ QString SixDecimals(double value) {
   return QString::fromLatin1(text.data(), end - text.data());
 }
 
+QString TimeAssignment(const ObservationTime& time, const QString& second) {
+  return u"time = jst(%1, %2, %3, %4, %5, %6)"_s.arg(time.year)
+      .arg(time.month)
+      .arg(time.day)
+      .arg(time.hour)
+      .arg(time.minute)
+      .arg(second);
+}
+
 }  // namespace vyn

@@ -57,4 +57,7 @@ double SignedDegrees(int negative, int degrees, int minutes, int seconds);
 /// A number with six decimals, as commands carry it.
 QString SixDecimals(double value);
 
+/// "time = jst(2024, 4, 9, 3, 20, SECOND)": the seconds as each dialog writes them.
+QString TimeAssignment(const ObservationTime& time, const QString& second);
+
 }  // namespace vyn

@@ -141,12 +141,7 @@ void CDlgCorona::OnBnClickedBtnPlnCenter() {
 void CDlgCorona::OnBnClickedBtnSendDate() {
   Pull();
   const DataSetRecord& r = record_;
-  Send(u"time = jst(%1, %2, %3, %4, %5, %6);"_s.arg(r.year)
-           .arg(r.month)
-           .arg(r.day)
-           .arg(r.hour)
-           .arg(r.minute)
-           .arg(SixDecimals(r.second)));
+  Send(TimeAssignment(r, SixDecimals(r.second)) + u';');
   const double longitude =
       SignedDegrees(r.west, r.longitudeDegrees, r.longitudeMinutes, r.longitudeSeconds);
   const double latitude =

@@ -1,5 +1,7 @@
 #include "image_data/data_set_dialog.h"
 
+#include <algorithm>
+
 #include <QComboBox>
 #include <QListWidget>
 #include <QSignalBlocker>
@@ -82,15 +84,12 @@ void CDataSetDialog::UpdateCorVyn(TransferDirection direction) {
   }
 }
 
-ObservationTime CDataSetDialog::AskTime() {
-  ObservationTime time;
-  time.year = AskInt(u"Time.Year"_s);
-  time.month = AskInt(u"Time.Month"_s);
-  time.day = AskInt(u"Time.Day"_s);
-  time.hour = AskInt(u"Time.Hour"_s);
-  time.minute = AskInt(u"Time.Minute"_s);
-  time.second = AskInt(u"Time.Second"_s);
-  return time;
+ObservationTime CDataSetDialog::AskTime(const TimePaths& paths) {
+  std::array<int, 6> parts{};
+  std::ranges::transform(paths, parts.begin(),
+                         [this](QStringView path) { return AskInt(path.toString()); });
+  const auto [year, month, day, hour, minute, second] = parts;
+  return {year, month, day, hour, minute, static_cast<double>(second)};
 }
 
 void CDataSetDialog::MakeStatus() {

@@ -2,6 +2,8 @@
 // engine, and the status snapshot.
 #pragma once
 
+#include <array>
+
 #include "image_data/cor_vyn_transfer.h"
 #include "image_data/number_dialog.h"
 
@@ -10,6 +12,11 @@ class QListWidget;
 namespace vyn {
 
 class CVynPreview;
+
+/// The six parts of the planetarium's moment, year to second.
+using TimePaths = std::array<QStringView, 6>;
+inline constexpr TimePaths kTimePaths{u"Time.Year", u"Time.Month",  u"Time.Day",
+                                      u"Time.Hour", u"Time.Minute", u"Time.Second"};
 
 /// A derived class names its numbers, moves its members (TransferMembers) and states its rules of
 /// enabling (UpdateStatus). Every change is sent at once as a whole set; Cancel restores the
@@ -58,8 +65,8 @@ class VYN_EXPORT CDataSetDialog : public CNumberDialog {
   void SendSet() { UpdateCorVyn(TransferDirection::Send); }
   void ReadSet() { UpdateCorVyn(TransferDirection::Read); }
 
-  /// The planetarium's moment in its own time zone.
-  ObservationTime AskTime();
+  /// The planetarium's moment in its own time zone, asked by these spellings of its six parts.
+  ObservationTime AskTime(const TimePaths& paths = kTimePaths);
   void MakeStatus();
   void PlayStatus();
   virtual void ChangeDiskMag();

@@ -2,7 +2,6 @@
 
 #include "image_data/image_file_types.h"
 #include "resources/string_table.h"
-#include "siblings/common_dialogs/open_file.h"
 #include "siblings/controls/preview.h"
 
 namespace vyn {
@@ -11,7 +10,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int kFileEdit = 11111;
-constexpr int kUnknownFormatText = 13476, kMissingFileText = 13477;
+constexpr int kMissingFileText = 13477;
 
 }  // namespace
 
@@ -53,7 +52,7 @@ void CImageDataDialog::Repaint() {
     Push();
     UpdateStatus();
     const bool isMissing = loading == ImageLoading::Missing;
-    ShowInformation(FilledString(isMissing ? kMissingFileText : kUnknownFormatText, {path}));
+    ShowInformation(FilledString(isMissing ? kMissingFileText : kUnknownImageText, {path}));
   }
   preview_.Repaint();
 }
@@ -77,23 +76,13 @@ void CImageDataDialog::EnableImageGroups(int last) {
 
 void CImageDataDialog::OnBnClickedBtnSendDate() {
   Pull();
-  Send(u"time = jst(%1, %2, %3, %4, %5, %6); show sky"_s.arg(record_.year)
-           .arg(record_.month)
-           .arg(record_.day)
-           .arg(record_.hour)
-           .arg(record_.minute)
-           .arg(static_cast<int>(record_.second)));
+  const QString wholeSecond = QString::number(static_cast<int>(record_.second));
+  Send(TimeAssignment(record_, wholeSecond) + u"; show sky");
 }
 
 void CImageDataDialog::OnBnClickedBtnTexFile() {
   Pull();
-  const QString path = AskAnyFile(this, record_.imagePath);
-  if (path.isEmpty()) return;
-  if (!IsReadExtensionType(path)) {
-    ShowInformation(FilledString(kUnknownFormatText, {path}));
-    return;
-  }
-  record_.imagePath = path;
+  if (!AskImagePath()) return;
   Push();
   SendSet();
   UpdateStatus();

@@ -9,4 +9,7 @@ namespace vyn {
 /// dds, dib, jpeg, jpg, jpe, png, tga, trg, fits, fit, fts.
 bool IsReadExtensionType(const QString& path);
 
+/// The message for a file that is none, filled with its path.
+inline constexpr int kUnknownImageText = 13476;
+
 }  // namespace vyn

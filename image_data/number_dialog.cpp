@@ -1,5 +1,8 @@
 #include "image_data/number_dialog.h"
 
+#include "image_data/image_file_types.h"
+#include "resources/string_table.h"
+#include "siblings/common_dialogs/open_file.h"
 #include "siblings/controls/controls.h"
 
 namespace vyn {
@@ -105,6 +108,17 @@ void CNumberDialog::Pull() {
 void CNumberDialog::Push() {
   if (typed_ == nullptr) unfinished_ = nullptr;
   UpdateData(false);
+}
+
+bool CNumberDialog::AskImagePath() {
+  const QString path = AskAnyFile(this, record_.imagePath);
+  if (path.isEmpty()) return false;
+  if (!IsReadExtensionType(path)) {
+    ShowInformation(FilledString(kUnknownImageText, {path}));
+    return false;
+  }
+  record_.imagePath = path;
+  return true;
 }
 
 }  // namespace vyn

@@ -34,6 +34,10 @@ class VYN_EXPORT CNumberDialog : public CVynDialog {
   void Pull();
   void Push();
 
+  /// Asks for a file and takes its path for the image's; false where none is chosen, or one of
+  /// which a message tells that it is no image.
+  bool AskImagePath();
+
   DataSetRecord record_;
 
  private:

@@ -281,12 +281,7 @@ void CDlgSunSpot::ReadOrientation() {
 
 void CDlgSunSpot::OnBnClickedBtnSendDate() {
   Pull();
-  Send(u"time = jst(%1, %2, %3, %4, %5, %6); show sky"_s.arg(record_.year)
-           .arg(record_.month)
-           .arg(record_.day)
-           .arg(record_.hour)
-           .arg(record_.minute)
-           .arg(SixDecimals(record_.second)));
+  Send(TimeAssignment(record_, SixDecimals(record_.second)) + u"; show sky");
 }
 
 // The mouse.

@@ -23,6 +23,10 @@ constexpr std::array kBodies{
     ImagedBody{u"太陽", u"solar.sun"},
 };
 
+/// As they are spelled before an image is added.
+constexpr TimePaths kTimePathsToAdd{u"time.year", u"time.month",  u"time.day",
+                                    u"time.hour", u"time.Minute", u"time.second"};
+
 QString Member(const QString& path, int number) { return path + ".#"_L1 + QString::number(number); }
 
 /// What stands behind the last backslash; the whole path where there is none.
@@ -155,7 +159,7 @@ void CDlgTakenImg::OnSelectData() {
 void CDlgTakenImg::OnBnClickedPtxBtnAdd() {
   Pull();
   CDlgTakenImgNew dialog(this);
-  dialog.SetTime(AskTimeToAdd());
+  dialog.SetTime(AskTime(kTimePathsToAdd));
   if (dialog.DoModal() != kOkButton) return;
   record_.imagePath = dialog.ImagePath();
   static_cast<ObservationTime&>(record_) = dialog.Time();
@@ -167,17 +171,6 @@ void CDlgTakenImg::OnBnClickedPtxBtnAdd() {
   Push();
   SendSet();
   OnSelectData();
-}
-
-ObservationTime CDlgTakenImg::AskTimeToAdd() {
-  ObservationTime time;
-  time.year = AskInt(u"time.year"_s);
-  time.month = AskInt(u"time.month"_s);
-  time.day = AskInt(u"time.day"_s);
-  time.hour = AskInt(u"time.hour"_s);
-  time.minute = AskInt(u"time.Minute"_s);
-  time.second = AskInt(u"time.second"_s);
-  return time;
 }
 
 void CDlgTakenImg::OnBnClickedPtxBtnDel() {

@@ -34,7 +34,6 @@ class VYN_EXPORT CDlgTakenImg final : public CBodyImageDialog {
 
   void OnSelectData();
   void OnBnClickedPtxBtnAdd();
-  ObservationTime AskTimeToAdd();
   void OnBnClickedPtxBtnDel();
   void OnBnClickedChkActive();
   void SetActive(int row);

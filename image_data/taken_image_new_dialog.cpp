@@ -1,14 +1,9 @@
 #include "image_data/taken_image_new_dialog.h"
 
-#include "image_data/image_file_types.h"
-#include "resources/string_table.h"
-#include "siblings/common_dialogs/open_file.h"
-
 namespace vyn {
 namespace {
 
 constexpr int kFileEdit = 11111;
-constexpr int kUnknownFormatText = 13476;
 
 }  // namespace
 
@@ -36,14 +31,7 @@ void CDlgTakenImgNew::OnOK() {
 
 void CDlgTakenImgNew::OnBnClickedBtnTexFile() {
   Pull();
-  const QString path = AskAnyFile(this, record_.imagePath);
-  if (path.isEmpty()) return;
-  if (!IsReadExtensionType(path)) {
-    ShowInformation(FilledString(kUnknownFormatText, {path}));
-    return;
-  }
-  record_.imagePath = path;
-  Push();
+  if (AskImagePath()) Push();
 }
 
 }  // namespace vyn

@@ -119,9 +119,14 @@ TEST(TemplateBuilder, AGroupNamesTheControlThatHasNoNameOfItsOwn) {
   EXPECT_EQ(planets.GetDlgItem(1136)->accessibleName(), QString()) << "it has a label";
 }
 
+/// Letters that texts of the planets' grids share; the toolkit takes turns between their controls.
+QString SharedLetters(int templateNumber) {
+  if (templateNumber == 13002) return QStringLiteral("MS");
+  return templateNumber == 13005 ? QStringLiteral("M") : QString();
+}
+
 TEST_P(BuiltTemplate, MnemonicsLeadToOneControlEach) {
-  // The texts of the planets' grids share letters, between which the toolkit takes turns.
-  if (GetParam() == 13002 || GetParam() == 13005) GTEST_SKIP();
+  const QString shared = SharedLetters(GetParam());
   QHash<QString, QList<int>> users;
   for (QWidget* control : dialog.Controls()) {
     const QVariant text = control->property("text");
@@ -132,8 +137,8 @@ TEST_P(BuiltTemplate, MnemonicsLeadToOneControlEach) {
     }
   }
   for (auto it = users.cbegin(); it != users.cend(); ++it) {
-    EXPECT_EQ(it->size(), 1) << qPrintable(it.key()) << ": " << it->value(0) << ", "
-                             << it->value(1);
+    EXPECT_EQ(it->size() > 1, shared.contains(it.key().back()))
+        << qPrintable(it.key()) << ": " << it->value(0) << ", " << it->value(1);
   }
 }
 

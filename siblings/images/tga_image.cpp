@@ -1,5 +1,5 @@
 // TGA: colour-mapped, true-colour and grey images, plain or run-length encoded.
-// Format: "Truevision TGA File Format Specification", version 2.0, 1991.
+// Format: the manual of the TGA file format, version 2.0, 1991.
 #include <optional>
 
 #include "siblings/images/byte_reader.h"

@@ -33,11 +33,7 @@ QByteArray MappedTga(int firstEntry, int entries, int entryBits) {
 
 QByteArray PlainDds() {
   QByteArray header = DdsHeader({3, 2}, 0x41, QByteArray(4, '\0'));
-  Put<quint32>(header, 88, 32);
-  Put<quint32>(header, 92, 0xFF0000);
-  Put<quint32>(header, 96, 0xFF00);
-  Put<quint32>(header, 100, 0xFF);
-  Put<quint32>(header, 104, 0xFF000000);
+  PutPixelFormat(header, 32, {0xFF0000, 0xFF00, 0xFF, 0xFF000000});
   return header + QByteArray("\1\2\3\xFF\4\5\6\xFF\7\10\11\xFF").repeated(2);
 }
 

@@ -115,14 +115,8 @@ TEST(Tga, EachKindOfPixel) {
 }
 
 TEST(Dds, UncompressedPixelsFollowTheirMasks) {
-  QByteArray dds = DdsHeader({4, 4}, 0x41, QByteArray(4, '\0'));
-  Put<quint32>(dds, 12, 1);
-  Put<quint32>(dds, 16, 2);
-  Put<quint32>(dds, 88, 16);
-  Put<quint32>(dds, 92, 0x0F00);
-  Put<quint32>(dds, 96, 0x00F0);
-  Put<quint32>(dds, 100, 0x000F);
-  Put<quint32>(dds, 104, 0xF000);
+  QByteArray dds = DdsHeader({2, 1}, 0x41, QByteArray(4, '\0'));
+  PutPixelFormat(dds, 16, {0x0F00, 0x00F0, 0x000F, 0xF000});
   const QImage image = LoadBytes(dds + QByteArray("\x21\xF3\x0F\x00", 4), u"a.dds"_s);
   EXPECT_EQ(image.pixel(0, 0), qRgba(0x33, 0x22, 0x11, 0xFF));
   EXPECT_TRUE(LoadBytes(dds + "\x21\xF3", u"a.dds"_s).isNull());

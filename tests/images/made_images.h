@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -49,6 +50,13 @@ inline QByteArray DdsHeader(QSize size, quint32 flags, const QByteArray& fourCc)
   Put<quint32>(header, 80, flags);
   header.replace(84, 4, fourCc);
   return header;
+}
+
+/// Makes a DDS header one of plain pixels.
+inline void PutPixelFormat(QByteArray& header, quint32 bits,
+                           const std::array<quint32, 4>& redGreenBlueAlpha) {
+  Put<quint32>(header, 88, bits);
+  for (int i = 0; i < 4; ++i) Put<quint32>(header, 92 + 4 * i, redGreenBlueAlpha[i]);
 }
 
 /// A FITS file of one part for each call.

@@ -3,31 +3,16 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QProcess>
 
-#include "tests/elements/element_case.h"
+#include "tests/vyn_eld/vyn_eld_case.h"
 
 namespace vyn {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-struct Outcome {
-  int exitCode;
-  QByteArray output;
-  QByteArray errors;
-};
-
-class CommandsTest : public ElementCase {
+class CommandsTest : public VynEldCase {
  protected:
-  Outcome Run(const QStringList& words) {
-    QProcess process;
-    process.setWorkingDirectory(QFileInfo(PathOf(u"x"_s)).path());
-    process.start(QStringLiteral(VYN_ELD), words);
-    EXPECT_TRUE(process.waitForFinished());
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-  }
-
   QByteArray Output(const QStringList& words, int exitCode = 0) {
     const Outcome outcome = Run(words);
     EXPECT_EQ(outcome.exitCode, exitCode) << outcome.errors.toStdString();

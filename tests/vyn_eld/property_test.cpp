@@ -5,11 +5,10 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QProcess>
 #include <QRegularExpression>
 
-#include "tests/elements/element_case.h"
 #include "tests/print_text.h"
+#include "tests/vyn_eld/vyn_eld_case.h"
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
@@ -20,26 +19,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-struct Outcome {
-  int exitCode;
-  QByteArray output;
-  QByteArray errors;
-
-  QByteArray LastLine() const { return output.sliced(output.lastIndexOf('\n', -2) + 1); }
-};
-
-class PropertyTest : public ElementCase {
+class PropertyTest : public VynEldCase {
  protected:
-  Outcome Run(const QStringList& words, const QString& outputFile = {}) {
-    QProcess process;
-    process.setWorkingDirectory(QFileInfo(PathOf(u"x"_s)).path());
-    if (!outputFile.isEmpty()) process.setStandardOutputFile(outputFile);
-    process.start(QStringLiteral(VYN_ELD), words);
-    EXPECT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << words.join(u' ').toStdString();
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-  }
-
   QJsonArray Json(const QStringList& words, int exitCode = 0) {
     const Outcome outcome = Run(words);
     EXPECT_EQ(outcome.exitCode, exitCode) << outcome.errors.toStdString();

@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QMessageBox>
 
+#include "core_link/wait_cursor.h"
 #include "elements/data_pointers.h"
 #include "elements/element_file.h"
 #include "elements/element_kind.h"
@@ -16,13 +17,6 @@ namespace vyn {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-class WaitCursor {
- public:
-  WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-  ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-  Q_DISABLE_COPY_MOVE(WaitCursor)
-};
 
 /// What the editor gave, as it stands in a file: an object that a person has changed.
 ElementRecords AsEdited(ElementRecords pages) {
@@ -57,9 +51,9 @@ int CElementMan::AddNewObject() {
   editor.SetPages({TemplateRecord(kind_ == u"COMET" ? 'C' : 'M', year)});
   editor.SetObjectNumber(-1);
   if (editor.DoModal() != 1) return 0;
-  const WaitCursor wait;
-  ElementFile file(AskElementFile(engine_, kind_));
-  return file.AppendRecords(AsEdited(editor.Pages())) ? 1 : 0;
+  return ChangeFile(AskElementFile(engine_, kind_), [&](ElementFile& file) {
+    return file.AppendRecords(AsEdited(editor.Pages()));
+  });
 }
 
 int CElementMan::EditObject(int object) {
@@ -68,19 +62,23 @@ int CElementMan::EditObject(int object) {
     ShowMessage(QMessageBox::Information, LoadString(13350));
     return 0;
   }
-  if (!index.Has(object)) return 0;
-  const std::int64_t position = index.FirstRecordOf(object) * kElementRecordSize;
   const QString path = AskElementFile(engine_, kind_);
-  const ElementRecords before = ElementFile(path).ReadRecords(position);
-  if (before.empty()) return 0;
+  const bool isThere = index.Has(object);
+  const std::int64_t position = isThere ? index.FirstRecordOf(object) * kElementRecordSize : 0;
+  const ElementRecords before =
+      isThere ? ElementFile(path).ReadRecords(position) : ElementRecords();
+  if (before.empty()) {
+    ShowMessage(QMessageBox::Information, LoadString(13350));
+    return 0;
+  }
   CDlgElementManEdit editor(engine_, secondEngine_, Window());
   editor.SetPages(before);
   editor.SetObjectNumber(object);
   if (editor.DoModal() != 1 || editor.Pages() == before) return 0;
-  const WaitCursor wait;
-  ElementFile file(path);
   // The file may have changed while the user edited.
-  return file.ReplaceUnchanged(position, before, AsEdited(editor.Pages())) ? 1 : 0;
+  return ChangeFile(path, [&](ElementFile& file) {
+    return file.ReplaceUnchanged(position, before, AsEdited(editor.Pages()));
+  });
 }
 
 int CElementMan::DeleteObject(int object) {
@@ -89,14 +87,23 @@ int CElementMan::DeleteObject(int object) {
     ShowMessage(QMessageBox::Information, LoadString(13350));
     return 0;
   }
-  ElementFile file(AskElementFile(engine_, kind_));
-  // The engine's numbers are those of the file only while the file is what the engine has loaded.
-  const bool isCurrent = index.Has(object) && file.Size() / kElementRecordSize == index.recordCount;
-  const bool isDeleted =
-      isCurrent && file.ShiftElementRecord(index.FirstRecordOf(object) * kElementRecordSize,
-                                           -index.RecordCountOf(object));
-  if (!isDeleted) ShowMessage(QMessageBox::Information, LoadString(13351));
-  return isDeleted ? 1 : 0;
+  return ChangeFile(AskElementFile(engine_, kind_), [&](ElementFile& file) {
+    // The engine's numbers are those of the file only while the file is what the engine has loaded.
+    return index.Has(object) && file.Size() / kElementRecordSize == index.recordCount &&
+           file.ShiftElementRecord(index.FirstRecordOf(object) * kElementRecordSize,
+                                   -index.RecordCountOf(object));
+  });
+}
+
+/// 1 when the change succeeds; what fails is told, so that nobody takes it for done.
+int CElementMan::ChangeFile(const QString& path, const std::function<bool(ElementFile&)>& change) {
+  ElementFile file(path);
+  const bool isChanged = [&] {
+    const WaitCursor wait;
+    return change(file);
+  }();
+  if (!isChanged) ShowMessage(QMessageBox::Information, LoadString(13351));
+  return isChanged ? 1 : 0;
 }
 
 int CElementMan::CountObjects(const QString& path) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 
 #include <QByteArray>
 #include <QString>
@@ -14,8 +15,10 @@ class QWidget;
 namespace vyn {
 
 struct ElementDataPointers;
+class ElementFile;
 
-/// Objects are numbered from 0. Only the file is changed; the caller tells the engines.
+/// Objects are numbered from 0. Only the file is changed; the caller tells the engines. A message
+/// tells of what cannot be read or written.
 class VYN_EXPORT CElementMan {
  public:
   /// Comets, without an engine.
@@ -46,6 +49,7 @@ class VYN_EXPORT CElementMan {
 
  private:
   bool GetElementIndex(ElementDataPointers& index);
+  int ChangeFile(const QString& path, const std::function<bool(ElementFile&)>& change);
   QWidget* Window() const;
   void ShowMessage(int icon, const QString& text);
 

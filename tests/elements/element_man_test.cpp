@@ -221,11 +221,12 @@ TEST_F(ElementManTest, AnObjectThatChangesBehindTheEditorIsKept) {
   for (const auto& objects : others) {
     Load({WholeObject(u"a"_s, 1), WholeObject(u"b"_s, 1)});
     Person person({[&](QWidget* editor) {
-      QFile::remove(path_);  // the engine has the old file in memory
-      Write(u"comets.eld"_s, Joined(objects));
-      Type(editor, 1641, u"12"_s);
-      Click(editor, kOk);
-    }});
+                     QFile::remove(path_);  // the engine has the old file in memory
+                     Write(u"comets.eld"_s, Joined(objects));
+                     Type(editor, 1641, u"12"_s);
+                     Click(editor, kOk);
+                   },
+                   Message(QMessageBox::Information, LoadString(13351))});
     EXPECT_EQ(Manager().EditObject(0), 0);
     EXPECT_EQ(File(), Joined(objects));
     EXPECT_EQ(Files(), QStringList{u"comets.eld"_s});
@@ -239,10 +240,11 @@ TEST_F(ElementManTest, ANewObjectNeedsAFile) {
     Type(editor, 1601, u"new"_s);
     Click(editor, kOk);
   };
-  Person person({typeNew, typeNew});
+  const auto cannotChange = Message(QMessageBox::Information, LoadString(13351));
+  Person person({typeNew, cannotChange, typeNew, cannotChange});
   EXPECT_EQ(Manager().AddNewObject(), 0);
   EXPECT_EQ(Files(), QStringList());
-  EXPECT_EQ(CElementMan().AddNewObject(), 0) << "without an engine";
+  EXPECT_EQ(CElementMan(1, nullptr, nullptr, &window_).AddNewObject(), 0) << "without an engine";
 }
 
 TEST_F(ElementManTest, AsksTheEngineForItsKindInTurn) {

@@ -46,10 +46,10 @@ constexpr std::array kSite{
 };
 
 constexpr std::array kPlacement{
-  NumberField{11145, 11146, Overlay, nullptr, &R::offsetX, 0.001, -kMaxOffset, kMaxOffset, 3},
-  NumberField{11148, 11149, Overlay, nullptr, &R::offsetY, 0.001, -kMaxOffset, kMaxOffset, 3},
-  NumberField{11151, 11152, Overlay, nullptr, &R::radius,  0.001, kMinRadius,  kMaxRadius, 3},
-  NumberField{11154, 11155, Roll,    nullptr, &R::rollDeg, 0.2,   0.0,         360.0,      1},
+  NumberField{11145, 11146, Offset, nullptr, &R::offsetX, 0.001, -kMaxOffset, kMaxOffset, 3},
+  NumberField{11148, 11149, Offset, nullptr, &R::offsetY, 0.001, -kMaxOffset, kMaxOffset, 3},
+  NumberField{11151, 11152, Radius, nullptr, &R::radius,  0.001, kMinRadius,  kMaxRadius, 3},
+  NumberField{11154, 11155, Roll,   nullptr, &R::rollDeg, 0.2,   0.0,         360.0,      1},
 };
 
 constexpr NumberField kLayerBrightness{11109, 11113, Brightness, nullptr, &R::layerBrightness, 0.1, 0.1, 1.0, 1};

@@ -225,10 +225,13 @@ void CDlgSunSpot::OnBnClickedPtxBtnDelSpot() {
 
 // Numbers.
 
-/// Of the date only year, month and day are put into their ranges; what is no time of day is not
-/// sent. Beyond the poles a latitude comes only by its spin button.
+/// Of date and time only year, month and day are put into their ranges; what is no time of day is
+/// not sent. Beyond the poles a latitude comes only by its spin button.
 void CDlgSunSpot::ClampTyped(const NumberField& field) {
-  if (field.group == FieldGroup::Time) return;
+  if (field.group == FieldGroup::Date || field.group == FieldGroup::Time) {
+    ClampGroup(DateFields(), FieldGroup::Date, record_);
+    return FixDay(record_);
+  }
   CDataSetDialog::ClampTyped(field);
   if (field.group == FieldGroup::Spot) {
     record_.spotLatitudeDeg = std::clamp(record_.spotLatitudeDeg, -90.0, 90.0);

@@ -53,11 +53,14 @@ void CDlgElementClass::OnBnClickedChkLimitBrighter() {
   ObjectList().Update();
 }
 
-/// The edit's own handler does the rest.
+/// The edit's own handler does the rest. It is called from here, since the edit would keep silent
+/// when it shows the rounded text already.
 void CDlgElementClass::OnHScroll(int position) {
   if (!HasCorVyn()) return;
-  static_cast<QLineEdit*>(GetDlgItem(id_.BrighterEdit()))
-      ->setText(QString::number(position / 10.0, 'f', 1));
+  auto* edit = static_cast<QLineEdit*>(GetDlgItem(id_.BrighterEdit()));
+  const QSignalBlocker blocker(edit);
+  edit->setText(QString::number(position / 10.0, 'f', 1));
+  OnEnChangeEdtLimitBrighter();
 }
 
 void CDlgElementClass::OnEnChangeEdtLimitBrighter() {

@@ -60,8 +60,8 @@ void CDataExchange::DDX_Double(int id, double& value, int maxChars, int maxDecim
 }
 
 void CDataExchange::DDX_DoubleFmt(int id, double& value, int decimals, int maxChars) {
-  QString text = QString::number(value, 'f', decimals);
-  while (text.size() > maxChars && decimals > 0) text = QString::number(value, 'f', --decimals);
+  QString text = FixedText(value, decimals);
+  while (text.size() > maxChars && decimals > 0) text = FixedText(value, --decimals);
   Text(id, text);
   if (saving_) value = reply::ToDouble(text);
 }

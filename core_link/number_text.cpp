@@ -1,5 +1,8 @@
 #include "core_link/number_text.h"
 
+#include <array>
+#include <charconv>
+
 namespace vyn {
 
 QString ShortNumberText(double value, int maxChars, int maxDecimals) {
@@ -14,5 +17,14 @@ QString ShortNumberText(double value, int maxChars, int maxDecimals) {
   }
   return text;
 }
+
+QString FixedText(double value, int decimals) {
+  std::array<char, 400> text{};
+  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value,
+                                          std::chars_format::fixed, decimals);
+  return QString::fromLatin1(text.data(), end - text.data());
+}
+
+QString SixDecimals(double value) { return FixedText(value, 6); }
 
 }  // namespace vyn

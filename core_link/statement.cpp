@@ -1,5 +1,7 @@
 #include "core_link/statement.h"
 
+#include "core_link/number_text.h"
+
 namespace vyn::statement {
 namespace {
 
@@ -21,8 +23,6 @@ QString Visible(QStringView path, bool on) { return Bool(QString(path + u".Visib
 
 QString Int(QStringView path, int value) { return Assign(path, QString::number(value)); }
 
-QString Double(QStringView path, double value) {
-  return Assign(path, QString::number(value, 'f', 6));
-}
+QString Double(QStringView path, double value) { return Assign(path, SixDecimals(value)); }
 
 }  // namespace vyn::statement

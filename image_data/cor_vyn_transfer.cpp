@@ -1,9 +1,8 @@
 #include "image_data/cor_vyn_transfer.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 
+#include "core_link/number_text.h"
 #include "core_link/reply.h"
 #include "core_link/statement.h"
 #include "siblings/astro/angles.h"
@@ -99,14 +98,6 @@ void CorVynTransfer::UpdateCorVynLngLat(const QString& path, QStringView member,
 double SignedDegrees(int negative, int degrees, int minutes, int seconds) {
   const double angle = degrees + minutes / 60.0 + (seconds / 60.0) / 60.0;
   return negative != 0 ? -angle : angle;
-}
-
-/// As printf writes it: the toolkit's own conversion would lose the sign of a zero.
-QString SixDecimals(double value) {
-  std::array<char, 400> text{};
-  const auto [end, error] =
-      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, 6);
-  return QString::fromLatin1(text.data(), end - text.data());
 }
 
 QString TimeAssignment(const ObservationTime& time, const QString& second) {

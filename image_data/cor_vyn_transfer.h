@@ -54,9 +54,6 @@ class CorVynTransfer {
 /// The signed angle in degrees that a flag, degrees, minutes and seconds mean.
 double SignedDegrees(int negative, int degrees, int minutes, int seconds);
 
-/// A number with six decimals, as commands carry it.
-QString SixDecimals(double value);
-
 /// "time = jst(2024, 4, 9, 3, 20, SECOND)": the seconds as each dialog writes them.
 QString TimeAssignment(const ObservationTime& time, const QString& second);
 

@@ -2,6 +2,7 @@
 
 #include <QListWidget>
 
+#include "core_link/number_text.h"
 #include "resources/string_table.h"
 
 namespace vyn {

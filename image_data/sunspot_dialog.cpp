@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QPainter>
 
+#include "core_link/number_text.h"
 #include "core_link/reply.h"
 #include "resources/string_table.h"
 #include "siblings/controls/preview.h"

@@ -5,6 +5,7 @@
 
 #include <QSlider>
 
+#include "core_link/number_text.h"
 #include "core_link/reply.h"
 #include "core_link/vector_step.h"
 
@@ -18,7 +19,6 @@ constexpr double kUnsetBeta = -1.0;
 constexpr double kShownBetaMin = 0.2;
 
 QString Truth(int on) { return on ? QStringLiteral("TRUE") : QStringLiteral("FALSE"); }
-QString Real(double value) { return QString::number(value, 'f', 6); }
 
 }  // namespace
 
@@ -99,11 +99,11 @@ double CDlgCometTail::ReadBeta(const QString& suffix, bool& isUnset) {
 void CDlgCometTail::Doit(const Tails& tails) {
   if (!HasCorVyn()) return;
   Send(QStringLiteral(".AutoEmissionSpan = ") + Truth(tails.autoEmission));
-  Send(QStringLiteral(".Dusttail.EmissionSpan = ") + Real(tails.dustSpanDays));
-  Send(QStringLiteral(".Dusttail.BetaMin = ") + Real(tails.betaMin));
-  Send(QStringLiteral(".Dusttail.BetaMax = ") + Real(tails.betaMax));
+  Send(QStringLiteral(".Dusttail.EmissionSpan = ") + SixDecimals(tails.dustSpanDays));
+  Send(QStringLiteral(".Dusttail.BetaMin = ") + SixDecimals(tails.betaMin));
+  Send(QStringLiteral(".Dusttail.BetaMax = ") + SixDecimals(tails.betaMax));
   Send(QStringLiteral(".dusttail.outline.visible = ") + Truth(tails.dustOutline));
-  Send(QStringLiteral(".Iontail.EmissionSpan = ") + Real(tails.ionSpanDays));
+  Send(QStringLiteral(".Iontail.EmissionSpan = ") + SixDecimals(tails.ionSpanDays));
   Send(QStringLiteral(".Iontail.outline.visible = ") + Truth(tails.ionOutline));
   CVynDialog::Doit(QStringLiteral("show sky"));
 }

@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 #include <QSlider>
 
+#include "core_link/number_text.h"
 #include "core_link/statement.h"
 #include "core_link/vector_step.h"
 #include "resources/string_table.h"
@@ -59,7 +60,7 @@ void CDlgElementClass::OnHScroll(int position) {
   if (!HasCorVyn()) return;
   auto* edit = static_cast<QLineEdit*>(GetDlgItem(id_.BrighterEdit()));
   const QSignalBlocker blocker(edit);
-  edit->setText(QString::number(position / 10.0, 'f', 1));
+  edit->setText(FixedText(position / 10.0, 1));
   OnEnChangeEdtLimitBrighter();
 }
 
@@ -85,8 +86,7 @@ void CDlgElementClass::OnDeltaposSpinLimitBrighter(int delta, bool fine) {
 }
 
 void CDlgElementClass::SendBrighterMagnitude() {
-  Doit(Path(u".Brighter.Magnitude = ") + QString::number(brighterMagnitude_, 'f', 1) +
-       statement::kRedraw);
+  Doit(Path(u".Brighter.Magnitude = ") + FixedText(brighterMagnitude_, 1) + statement::kRedraw);
   ObjectList().Update();
 }
 
@@ -120,7 +120,7 @@ void CDlgElementClass::OnDeltaposSpinVector(int spin, int delta) {
 }
 
 void CDlgElementClass::SendVector(QStringView property, double value) {
-  Doit(Path(property) + u" = " + QString::number(value, 'f', 6) + statement::kRedraw);
+  Doit(Path(property) + u" = " + SixDecimals(value) + statement::kRedraw);
 }
 
 void CDlgElementClass::ShowRange(int message, double lowest, double highest) {

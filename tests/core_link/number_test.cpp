@@ -24,6 +24,20 @@ TEST(NumberText, KeepsHundredthsWithinItsLength) {
   }
 }
 
+TEST(FixedText, TakesTheEvenDigitHalfwayAndKeepsTheSignOfZero) {
+  const struct {
+    double value;
+    int decimals;
+    const char* text;
+  } cases[] = {
+      {6.25, 1, "6.2"},  {6.75, 1, "6.8"}, {-0.25, 1, "-0.2"},           {0.05, 1, "0.1"},
+      {-0.0, 1, "-0.0"}, {2.5, 0, "2"},    {12.0078125, 6, "12.007812"}, {-0.04, 1, "-0.0"},
+  };
+  for (const auto& [value, decimals, text] : cases) {
+    EXPECT_EQ(FixedText(value, decimals).toStdString(), text) << value;
+  }
+}
+
 TEST(VectorStep, IsCoarserAboveOneTenthAndOne) {
   constexpr int kUp = -1, kDown = 1;
   const struct {

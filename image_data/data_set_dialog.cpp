@@ -48,6 +48,22 @@ void CDataSetDialog::OnCancel() {
 
 // Numbers.
 
+/// Those of a site, a shift and a spot are typed as one, and so are those of a time of day: a second
+/// beyond 59.0 would keep a new hour from being sent.
+void CDataSetDialog::ClampTyped(const NumberField& field) {
+  switch (field.group) {
+    case FieldGroup::Site:
+      ClampGroup(fields_, FieldGroup::Altitude, record_);
+      [[fallthrough]];
+    case FieldGroup::Time:
+    case FieldGroup::Offset:
+    case FieldGroup::Spot:
+      return ClampGroup(fields_, field.group, record_);
+    default:
+      CNumberDialog::ClampTyped(field);
+  }
+}
+
 void CDataSetDialog::OnNumberTyped(const NumberField& field) {
   if (field.group == FieldGroup::Magnification) return ChangeDiskMag();
   SendSet();

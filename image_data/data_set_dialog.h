@@ -47,6 +47,7 @@ class VYN_EXPORT CDataSetDialog : public CNumberDialog {
   /// The path of the body that is magnified and centred.
   virtual QString BodyPath() const = 0;
 
+  void ClampTyped(const NumberField& field) override;
   void OnNumberTyped(const NumberField& field) override;
   void OnNumberStepped(const NumberField& field) override;
 

@@ -97,8 +97,10 @@ void CImageDataDialog::OnLButtonDown(QPoint point, Qt::MouseButton button) {
 void CImageDataDialog::OnMouseMove(QPoint point) {
   preview_.UpdateCursor(point);
   if (!preview_.IsDragging()) return;
+  // Before the edits, which round, are read: the handle was grabbed where the overlay is drawn.
+  const Placement dragged = preview_.Drag(point);
   Pull();
-  static_cast<Placement&>(record_) = preview_.Drag(point);
+  static_cast<Placement&>(record_) = dragged;
   Push();
   preview_.RepaintNow();
   SendSet();

@@ -78,21 +78,9 @@ bool CNumberDialog::KeepsItsText(const NumberField& field) const {
   return &field == unfinished_ || field.Text(shown) == field.Text(record_);
 }
 
-/// A number that was not typed keeps what the engine said of it, be it out of range; only those of
-/// a site, a shift and a spot are typed as one, and those of a time of day, since a second beyond
-/// 59.0 would keep a new hour from being sent.
+/// A number that was not typed keeps what the engine said of it, be it out of range.
 void CNumberDialog::ClampTyped(const NumberField& field) {
-  switch (field.group) {
-    case FieldGroup::Site:
-      ClampGroup(fields_, FieldGroup::Altitude, record_);
-      [[fallthrough]];
-    case FieldGroup::Time:
-    case FieldGroup::Offset:
-    case FieldGroup::Spot:
-      return ClampGroup(fields_, field.group, record_);
-    default:
-      field.SetValue(record_, field.Clamped(field.Value(record_)));
-  }
+  field.SetValue(record_, field.Clamped(field.Value(record_)));
   if (field.group == FieldGroup::Date) FixDay(record_);
 }
 

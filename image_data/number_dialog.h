@@ -38,6 +38,7 @@ class VYN_EXPORT CNumberDialog : public CVynDialog {
   /// which a message tells that it is no image.
   bool AskImagePath();
 
+  const std::vector<NumberField> fields_;
   DataSetRecord record_;
 
  private:
@@ -47,7 +48,6 @@ class VYN_EXPORT CNumberDialog : public CVynDialog {
   void FinishTyping();
   bool KeepsItsText(const NumberField& field) const;
 
-  const std::vector<NumberField> fields_;
   /// The number whose edit is being typed in, while its change is carried out.
   const NumberField* typed_ = nullptr;
   /// The number whose text is still below its range, as "0" on the way to "0.5".

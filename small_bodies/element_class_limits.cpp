@@ -58,9 +58,7 @@ void CDlgElementClass::OnBnClickedChkLimitBrighter() {
 /// when it shows the rounded text already.
 void CDlgElementClass::OnHScroll(int position) {
   if (!HasCorVyn()) return;
-  auto* edit = static_cast<QLineEdit*>(GetDlgItem(id_.BrighterEdit()));
-  const QSignalBlocker blocker(edit);
-  edit->setText(FixedText(position / 10.0, 1));
+  ShowEdit(id_.BrighterEdit(), FixedText(position / 10.0, 1));
   OnEnChangeEdtLimitBrighter();
 }
 

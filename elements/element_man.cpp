@@ -58,15 +58,14 @@ int CElementMan::AddNewObject() {
 
 int CElementMan::EditObject(int object) {
   ElementDataPointers index;
-  if (!GetElementIndex(index)) {
-    ShowMessage(QMessageBox::Information, LoadString(13350));
-    return 0;
+  QString path;
+  std::int64_t position = 0;
+  ElementRecords before;
+  if (GetElementIndex(index) && index.Has(object)) {
+    path = AskElementFile(engine_, kind_);
+    position = index.FirstRecordOf(object) * kElementRecordSize;
+    before = ElementFile(path).ReadRecords(position);
   }
-  const QString path = AskElementFile(engine_, kind_);
-  const bool isThere = index.Has(object);
-  const std::int64_t position = isThere ? index.FirstRecordOf(object) * kElementRecordSize : 0;
-  const ElementRecords before =
-      isThere ? ElementFile(path).ReadRecords(position) : ElementRecords();
   if (before.empty()) {
     ShowMessage(QMessageBox::Information, LoadString(13350));
     return 0;

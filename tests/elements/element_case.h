@@ -35,6 +35,18 @@ inline QByteArray Joined(const std::vector<ElementRecords>& objects) {
   return bytes;
 }
 
+/// The next of the answers that a test has prepared, which is used up.
+template <class Answer>
+Answer TakeFirst(std::vector<Answer>& answers) {
+  if (answers.empty()) {
+    ADD_FAILURE() << "no answer is left";
+    return {};
+  }
+  Answer answer = std::move(answers.front());
+  answers.erase(answers.begin());
+  return answer;
+}
+
 /// A test with a folder of its own.
 class ElementCase : public ::testing::Test {
  protected:

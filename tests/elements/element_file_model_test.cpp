@@ -56,16 +56,6 @@ class Model {
   std::vector<ElementRecords> objects;
 
  private:
-  static Answer Take(std::vector<Answer>& answers) {
-    if (answers.empty()) {
-      ADD_FAILURE() << "a question was not put";
-      return {};
-    }
-    const Answer answer = answers.front();
-    answers.erase(answers.begin());
-    return answer;
-  }
-
   int WriteRenamed(ElementRecords records, const Answer& answer, int& flags) {
     Rename(records, answer.newIdentifier);
     flags |= 0x400;
@@ -74,7 +64,7 @@ class Model {
 
   int ImportBlank(ElementRecords records, int& flags, std::vector<Answer>& answers) {
     if (flags & 0x200) return -1;
-    const Answer answer = Take(answers);
+    const Answer answer = TakeFirst(answers);
     if (answer.choice < 2) {
       flags |= answer.choice == 0 ? 0x100 : 0x200;
       return -1;
@@ -87,7 +77,7 @@ class Model {
     if (flags & 0x010) return Write(found, records);
     if (flags & 0x008) return -1;
     for (;;) {
-      const Answer answer = Take(answers);
+      const Answer answer = TakeFirst(answers);
       constexpr int kFlags[] = {0x001, 0x008, 0x002, 0x012, 0x004};
       flags |= kFlags[answer.choice];
       if (answer.choice < 2) return -1;

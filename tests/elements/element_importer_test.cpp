@@ -40,13 +40,7 @@ class PreparedDecisions final : public ImportDecisions {
  private:
   Answer Next() {
     if (onQuestion) onQuestion();
-    if (answers_.empty()) {
-      ADD_FAILURE() << "one question too many";
-      return {};
-    }
-    const Answer answer = answers_.front();
-    answers_.erase(answers_.begin());
-    return answer;
+    return TakeFirst(answers_);
   }
 
   std::vector<Answer> answers_;
